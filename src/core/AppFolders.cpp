@@ -1,12 +1,12 @@
 #include "AppFolders.h"
 
-#include "TextFile.h"
-
 #include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
+
+#include "TextFile.h"
 
 namespace coinlight {
 
@@ -54,8 +54,8 @@ std::filesystem::path ResolveDataFolder(const std::filesystem::path& appFolder, 
 }
 
 std::optional<std::string> MakeFolderTree(const DataLayout& layout) {
-    const std::array folders = {layout.root, layout.Settings(), layout.Output(),
-                                layout.Software(), layout.Temp()};
+    const std::array folders = {layout.root, layout.Settings(), layout.Output(), layout.Software(),
+                                layout.Temp()};
     for (const auto& folder : folders) {
         std::error_code error;
         if (std::filesystem::is_directory(folder, error)) {

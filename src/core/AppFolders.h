@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DataLayout.h"
-
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+
+#include "DataLayout.h"
 
 namespace coinlight {
 

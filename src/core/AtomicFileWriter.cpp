@@ -42,7 +42,9 @@ AtomicFileWriter::AtomicFileWriter(std::filesystem::path destination)
     std::setvbuf(m_file, nullptr, _IOFBF, 1 << 18);
 }
 
-AtomicFileWriter::~AtomicFileWriter() { Discard(); }
+AtomicFileWriter::~AtomicFileWriter() {
+    Discard();
+}
 
 void AtomicFileWriter::Fail(const std::string& what) {
     if (m_error.empty()) {

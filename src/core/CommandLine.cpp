@@ -8,9 +8,13 @@ namespace coinlight {
 
 namespace {
 
-bool IsNameCharacter(char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_'; }
+bool IsNameCharacter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+}
 
-char LowerAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+char LowerAscii(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
+}
 
 } // namespace
 
@@ -46,7 +50,9 @@ CommandLine& CommandLine::Add(std::string separator, std::string text, bool isPa
     return *this;
 }
 
-CommandLine& CommandLine::Word(std::string_view word) { return Add(" ", std::string(word), false); }
+CommandLine& CommandLine::Word(std::string_view word) {
+    return Add(" ", std::string(word), false);
+}
 
 CommandLine& CommandLine::Path(const std::filesystem::path& path) {
     return Add(" ", QuotePath(path.string()), true);
@@ -88,8 +94,12 @@ std::string CommandLine::Join(bool lowerCase) const {
     return line;
 }
 
-std::string CommandLine::Text() const { return Join(false); }
+std::string CommandLine::Text() const {
+    return Join(false);
+}
 
-std::string CommandLine::LowerCasedText() const { return Join(true); }
+std::string CommandLine::LowerCasedText() const {
+    return Join(true);
+}
 
 } // namespace coinlight

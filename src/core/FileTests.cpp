@@ -45,7 +45,8 @@ bool FileMissing(const std::filesystem::path& path) {
         return true;
     }
     for (const auto& entry : entries) {
-        if (entry.is_regular_file(error) && MatchesWildcard(pattern, entry.path().filename().string())) {
+        if (entry.is_regular_file(error) &&
+            MatchesWildcard(pattern, entry.path().filename().string())) {
             return false;
         }
     }

@@ -1,10 +1,10 @@
 #include "MarkerFlags.h"
 
+#include <string>
+
 #include "FileTests.h"
 #include "ProfileFile.h"
 #include "ValueText.h"
-
-#include <string>
 
 namespace coinlight {
 

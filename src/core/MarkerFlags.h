@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DataLayout.h"
-
 #include <set>
+
+#include "DataLayout.h"
 
 namespace coinlight {
 

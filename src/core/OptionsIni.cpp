@@ -1,22 +1,34 @@
 #include "OptionsIni.h"
 
+#include <algorithm>
+
 #include "PreferenceKeys.h"
 #include "ProfileFile.h"
 #include "TextFile.h"
 #include "Version.h"
 
-#include <algorithm>
-
 namespace coinlight {
 
 namespace {
 
-std::string ToText(const std::string& value) { return value; }
-std::string ToText(bool value) { return BoolText(value); }
-std::string ToText(int value) { return std::to_string(value); }
-std::string ToText(long long value) { return std::to_string(value); }
-std::string ToText(Colour value) { return ColourText(value); }
-std::string ToText(Day value) { return DayText(value); }
+std::string ToText(const std::string& value) {
+    return value;
+}
+std::string ToText(bool value) {
+    return BoolText(value);
+}
+std::string ToText(int value) {
+    return std::to_string(value);
+}
+std::string ToText(long long value) {
+    return std::to_string(value);
+}
+std::string ToText(Colour value) {
+    return ColourText(value);
+}
+std::string ToText(Day value) {
+    return DayText(value);
+}
 
 bool Convert(const std::string& text, std::string& field) {
     field = text;
@@ -144,8 +156,7 @@ OptionsReadResult ReadOptionsIni(const std::filesystem::path& file, Preferences&
     ForEachOtherKey(preferences.other, SectionReader(file, kSectionOther, result));
     ForEachMameKey(preferences.mame, SectionReader(file, kSectionMame, result));
     ForEachSearchPathKey(preferences.searchPaths, SectionReader(file, kSectionSearchPaths, result));
-    ForEachOutputPathKey(preferences.outputPaths,
-                         SectionReader(file, kSectionOutputPaths, result));
+    ForEachOutputPathKey(preferences.outputPaths, SectionReader(file, kSectionOutputPaths, result));
     ForEachMiscellaneousKey(preferences.miscellaneous,
                             SectionReader(file, kSectionMiscellaneous, result));
     ForEachViewKey(preferences.view, SectionReader(file, kSectionView, result));

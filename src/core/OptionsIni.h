@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Preferences.h"
-
 #include <filesystem>
 #include <string>
 #include <vector>
+
+#include "Preferences.h"
 
 namespace coinlight {
 

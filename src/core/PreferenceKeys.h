@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Preferences.h"
-
 #include <string>
+
+#include "Preferences.h"
 
 namespace coinlight {
 

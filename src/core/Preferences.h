@@ -1,9 +1,9 @@
 #pragma once
 
-#include "ValueText.h"
-
 #include <string>
 #include <vector>
+
+#include "ValueText.h"
 
 namespace coinlight {
 

@@ -2,22 +2,39 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 
 namespace coinlight {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
-char LowerAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+char LowerAscii(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
+}
 
+/// A hash that ignores letter case, eight bytes at a time. Setting bit 0x20 of every byte
+/// folds upper-case letters onto lower-case ones; it also folds a few punctuation pairs,
+/// which only costs the odd extra comparison.
 std::uint64_t HashName(int section, std::string_view name) {
-    std::uint64_t hash = 14695981039346656037ull ^ static_cast<std::uint64_t>(section + 1);
-    for (char c : name) {
-        hash ^= static_cast<unsigned char>(LowerAscii(c));
-        hash *= 1099511628211ull;
+    constexpr std::uint64_t kFold = 0x2020202020202020ull;
+    constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15ull;
+    std::uint64_t hash = static_cast<std::uint64_t>(section + 1) * kMultiplier ^ name.size();
+    const char* at = name.data();
+    std::size_t left = name.size();
+    while (left > 0) {
+        std::uint64_t word = 0;
+        const std::size_t take = left < 8 ? left : 8;
+        std::memcpy(&word, at, take);
+        hash = (hash ^ (word | kFold)) * kMultiplier;
+        hash ^= hash >> 29;
+        at += take;
+        left -= take;
     }
-    return hash ^ (hash >> 29);
+    return hash;
 }
 
 } // namespace
@@ -25,6 +42,9 @@ std::uint64_t HashName(int section, std::string_view name) {
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
         return false;
+    }
+    if (a == b) {
+        return true; // the usual case, and a fast one
     }
     for (std::size_t i = 0; i < a.size(); ++i) {
         if (LowerAscii(a[i]) != LowerAscii(b[i])) {
@@ -59,6 +79,14 @@ void ProfileDocument::ParseLines() {
     const auto offsetOf = [&](std::string_view part) {
         return static_cast<std::uint32_t>(part.data() - text.data());
     };
+    std::size_t lineCount = 1;
+    for (const char *at = text.data(), *end = text.data() + text.size();
+         (at = static_cast<const char*>(
+              std::memchr(at, '\n', static_cast<std::size_t>(end - at)))) != nullptr;
+         ++at) {
+        ++lineCount;
+    }
+    m_lines.reserve(lineCount);
     std::size_t start = 0;
     int section = -1;
     while (start < text.size()) {
@@ -246,9 +274,8 @@ std::string ProfileDocument::WithValue(std::string_view section, std::string_vie
     const int keyLine = FindKeyLine(found, key);
     if (keyLine >= 0) {
         // The key keeps the spelling it has in the file.
-        const std::string entry =
-            std::string(NameOf(m_lines[static_cast<std::size_t>(keyLine)])) + "=" +
-            std::string(value);
+        const std::string entry = std::string(NameOf(m_lines[static_cast<std::size_t>(keyLine)])) +
+                                  "=" + std::string(value);
         lines[static_cast<std::size_t>(keyLine)] = entry;
         return Compose(lines);
     }

@@ -1,11 +1,11 @@
 #include "ProfileFile.h"
 
-#include "TextFile.h"
-
 #include <algorithm>
 #include <mutex>
 #include <sys/stat.h>
 #include <unordered_map>
+
+#include "TextFile.h"
 
 namespace coinlight {
 
@@ -26,8 +26,7 @@ std::optional<Stamp> StampOf(const std::filesystem::path& file) {
     if (::stat(file.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) {
         return std::nullopt;
     }
-    return Stamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec,
-                 info.st_mtim.tv_nsec};
+    return Stamp{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec};
 }
 
 struct CachedProfile {
@@ -38,14 +37,18 @@ struct CachedProfile {
 class ProfileCache {
 public:
     std::shared_ptr<const ProfileDocument> Load(const std::filesystem::path& file) {
+        // Every load looks at the file's stamp, so that a change by another program is
+        // never missed; loops over many keys hold the document instead of coming back.
+        const std::string& key = file.native();
         const auto stamp = StampOf(file);
-        const std::string key = file.string();
         std::lock_guard lock(m_mutex);
+        auto found = m_entries.find(key);
         if (!stamp) {
-            m_entries.erase(key);
+            if (found != m_entries.end()) {
+                m_entries.erase(found);
+            }
             return Empty();
         }
-        auto found = m_entries.find(key);
         if (found != m_entries.end() && found->second.stamp == *stamp) {
             return found->second.document;
         }
@@ -123,14 +126,20 @@ std::shared_ptr<const ProfileDocument> LoadProfile(const std::filesystem::path& 
     return Cache().Load(file);
 }
 
-void ForgetProfile(const std::filesystem::path& file) { Cache().Forget(file); }
+void ForgetProfile(const std::filesystem::path& file) {
+    Cache().Forget(file);
+}
+
+std::string ReadProfileValue(const ProfileDocument& document, std::string_view section,
+                             std::string_view key, std::string_view defaultValue) {
+    const auto value = document.Find(section, key);
+    const std::string_view text = value ? *value : defaultValue;
+    return std::string(text.substr(0, kProfileValueLimit));
+}
 
 std::string ReadProfileValue(const std::filesystem::path& file, std::string_view section,
                              std::string_view key, std::string_view defaultValue) {
-    const auto document = LoadProfile(file);
-    const auto value = document->Find(section, key);
-    const std::string_view text = value ? *value : defaultValue;
-    return std::string(text.substr(0, kProfileValueLimit));
+    return ReadProfileValue(*LoadProfile(file), section, key, defaultValue);
 }
 
 std::string ReadProfileValue(const std::filesystem::path& file, std::string_view section,
@@ -218,8 +227,7 @@ void ProfileEditor::ClearSection(std::string_view section) {
     if (!m_document->HasSection(section)) {
         return;
     }
-    m_document =
-        std::make_shared<const ProfileDocument>(m_document->WithSectionCleared(section));
+    m_document = std::make_shared<const ProfileDocument>(m_document->WithSectionCleared(section));
     m_changed = true;
 }
 

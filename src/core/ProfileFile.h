@@ -1,13 +1,13 @@
 #pragma once
 
-#include "ProfileDocument.h"
-
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "ProfileDocument.h"
 
 namespace coinlight {
 
@@ -16,7 +16,8 @@ inline constexpr std::size_t kProfileValueLimit = 4095;
 
 /// The parsed file, shared by every reader until the file changes: a write through these
 /// functions or a new size, time or identity on disk. A missing or unreadable file reads
-/// as an empty document.
+/// as an empty document. A loop that reads many keys holds the document and reads through
+/// it: every load looks at the file on disk, which costs more than a lookup.
 std::shared_ptr<const ProfileDocument> LoadProfile(const std::filesystem::path& file);
 
 /// Drops the parsed copy of a file (to free memory after a one-off bulk read).
@@ -24,14 +25,16 @@ void ForgetProfile(const std::filesystem::path& file);
 
 std::string ReadProfileValue(const std::filesystem::path& file, std::string_view section,
                              std::string_view key, std::string_view defaultValue);
+/// The same read on a document already loaded.
+std::string ReadProfileValue(const ProfileDocument& document, std::string_view section,
+                             std::string_view key, std::string_view defaultValue);
 std::string ReadProfileValue(const std::filesystem::path& file, std::string_view section,
                              std::string_view key, long long defaultValue);
 
 /// Sets a key, replacing its line in place or adding it at the end of its section; CR and
 /// LF in the value become blanks. The file is replaced atomically.
 bool WriteProfileValue(const std::filesystem::path& file, std::string_view section,
-                       std::string_view key, std::string_view value,
-                       std::string* error = nullptr);
+                       std::string_view key, std::string_view value, std::string* error = nullptr);
 bool DeleteProfileKey(const std::filesystem::path& file, std::string_view section,
                       std::string_view key, std::string* error = nullptr);
 bool DeleteProfileSection(const std::filesystem::path& file, std::string_view section,

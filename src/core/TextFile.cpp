@@ -1,31 +1,46 @@
 #include "TextFile.h"
 
-#include "AtomicFileWriter.h"
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-#include <cstdio>
+#include "AtomicFileWriter.h"
 
 namespace coinlight {
 
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& file) {
-    std::FILE* stream = std::fopen(file.c_str(), "rb");
-    if (stream == nullptr) {
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) {
         return std::nullopt;
     }
+    struct stat info {};
     std::string bytes;
-    char chunk[1 << 16];
+    if (::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) && info.st_size > 0) {
+        // One allocation of the right size: growing chunk by chunk doubles the cost.
+        bytes.resize(static_cast<std::size_t>(info.st_size));
+    }
+    std::size_t filled = 0;
     bool failed = false;
     for (;;) {
-        const std::size_t got = std::fread(chunk, 1, sizeof chunk, stream);
-        bytes.append(chunk, got);
-        if (got < sizeof chunk) {
-            failed = std::ferror(stream) != 0;
+        if (filled == bytes.size()) {
+            bytes.resize(bytes.size() + (1 << 16)); // the file grew, or is not a plain file
+        }
+        const ssize_t got = ::read(descriptor, bytes.data() + filled, bytes.size() - filled);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got <= 0) {
+            failed = got < 0;
             break;
         }
+        filled += static_cast<std::size_t>(got);
     }
-    std::fclose(stream);
+    ::close(descriptor);
     if (failed) {
         return std::nullopt;
     }
+    bytes.resize(filled);
     return bytes;
 }
 
@@ -56,8 +71,7 @@ std::optional<std::vector<std::string>> ReadTextLines(const std::filesystem::pat
     return SplitLines(*bytes);
 }
 
-bool WriteFileBytes(const std::filesystem::path& file, std::string_view bytes,
-                    std::string* error) {
+bool WriteFileBytes(const std::filesystem::path& file, std::string_view bytes, std::string* error) {
     AtomicFileWriter writer(file);
     writer.Write(bytes);
     const bool ok = writer.Commit();

@@ -1,12 +1,12 @@
 #include "ValueText.h"
 
-#include "ProfileDocument.h"
-
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
 #include <limits>
+
+#include "ProfileDocument.h"
 
 namespace coinlight {
 
@@ -58,7 +58,9 @@ template <class T> std::optional<T> ParseWhole(std::string_view text, double low
 
 } // namespace
 
-std::string BoolText(bool value) { return value ? "True" : "False"; }
+std::string BoolText(bool value) {
+    return value ? "True" : "False";
+}
 
 std::optional<bool> ParseBool(std::string_view text) {
     const std::string_view word = TrimBlanks(text);
@@ -148,9 +150,10 @@ Day Today() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     ::localtime_r(&now, &local);
-    const std::chrono::year_month_day date{std::chrono::year(local.tm_year + 1900),
-                                           std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
-                                           std::chrono::day(static_cast<unsigned>(local.tm_mday))};
+    const std::chrono::year_month_day date{
+        std::chrono::year(local.tm_year + 1900),
+        std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+        std::chrono::day(static_cast<unsigned>(local.tm_mday))};
     return Day(date);
 }
 

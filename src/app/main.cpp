@@ -1,0 +1,5 @@
+#include "SubMain.h"
+
+int main(int argc, char** argv) {
+    return coinlight::SubMain(argc, argv);
+}

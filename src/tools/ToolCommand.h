@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace coinlight {
+
+using ToolArguments = std::vector<std::string>;
+
+/// One command of coinlight-tool: its name, its usage line and what runs it. `run` gets
+/// the arguments after the command's name and returns the process exit code.
+struct ToolCommand {
+    const char* name;
+    const char* usage;
+    int (*run)(const ToolArguments& arguments);
+};
+
+/// Prints the usage line to standard error and returns the exit code of a misuse.
+int ToolUsageError(const ToolCommand& command);
+
+std::vector<ToolCommand> IniCommands();
+
+} // namespace coinlight

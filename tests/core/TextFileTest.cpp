@@ -1,0 +1,84 @@
+#include "core/TextFile.h"
+
+#include <gtest/gtest.h>
+
+#include "core/AtomicFileWriter.h"
+#include "core/LineReader.h"
+#include "support/TestFiles.h"
+
+namespace coinlight {
+namespace {
+
+using test::ReadFile;
+using test::TempFolder;
+using test::WriteFile;
+
+std::vector<std::string> ReadAllLines(const std::filesystem::path& file) {
+    LineReader reader(file);
+    std::vector<std::string> lines;
+    std::string_view line;
+    while (reader.Next(line)) {
+        lines.emplace_back(line);
+    }
+    return lines;
+}
+
+TEST(TextFile, ReadersAcceptCrLfAndLfAndALastLineWithoutBreak) {
+    TempFolder folder;
+    const auto file = folder / "mixed.txt";
+    WriteFile(file, "one\r\ntwo\nthree\r\n\r\nlast");
+    const std::vector<std::string> expected = {"one", "two", "three", "", "last"};
+    EXPECT_EQ(ReadAllLines(file), expected);
+    EXPECT_EQ(ReadTextLines(file), expected);
+    WriteFile(file, "");
+    EXPECT_TRUE(ReadAllLines(file).empty());
+    EXPECT_FALSE(ReadTextLines(folder / "none"));
+    EXPECT_FALSE(LineReader(folder / "none").IsOpen());
+}
+
+TEST(TextFile, LineReaderHandlesLinesLongerThanItsBuffer) {
+    TempFolder folder;
+    const auto file = folder / "long.txt";
+    const std::string huge(3 * 1024 * 1024 + 17, 'q');
+    WriteFile(file, "a\r\n" + huge + "\r\nb\r");
+    const auto lines = ReadAllLines(file);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[1], huge);
+    EXPECT_EQ(lines[2], "b");
+}
+
+TEST(TextFile, BytesPassThroughUnchanged) {
+    TempFolder folder;
+    const auto file = folder / "bytes.txt";
+    const std::string bytes = std::string("caf\xc3\xa9 \xff\x00 x", 10);
+    ASSERT_TRUE(WriteTextLines(file, {bytes, "end"}));
+    EXPECT_EQ(ReadFile(file), bytes + "\r\nend\r\n");
+    EXPECT_EQ(ReadTextLines(file)->front(), bytes);
+}
+
+TEST(AtomicFileWriter, WithoutCommitTheOldFileStaysAndNothingIsLeft) {
+    TempFolder folder;
+    const auto file = folder / "keep.txt";
+    WriteFile(file, "old");
+    {
+        AtomicFileWriter writer(file);
+        writer.WriteLine("new half");
+    }
+    EXPECT_EQ(ReadFile(file), "old");
+    EXPECT_EQ(test::CountFiles(folder.Path()), 1u);
+    AtomicFileWriter writer(file);
+    writer.WriteLine("new");
+    ASSERT_TRUE(writer.Commit());
+    EXPECT_EQ(ReadFile(file), "new\r\n");
+}
+
+TEST(AtomicFileWriter, AMissingFolderIsReportedNotCreated) {
+    TempFolder folder;
+    AtomicFileWriter writer(folder / "none" / "x.txt");
+    EXPECT_FALSE(writer.IsOpen());
+    EXPECT_FALSE(writer.Commit());
+    EXPECT_FALSE(writer.Error().empty());
+}
+
+} // namespace
+} // namespace coinlight
