@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "TextCase.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -10,10 +12,6 @@ namespace {
 
 bool IsNameCharacter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
-}
-
-char LowerAscii(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
 }
 
 } // namespace

@@ -12,10 +12,6 @@ bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-char LowerAscii(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
-}
-
 /// A hash that ignores letter case, eight bytes at a time. Setting bit 0x20 of every byte
 /// folds upper-case letters onto lower-case ones; it also folds a few punctuation pairs,
 /// which only costs the odd extra comparison.
@@ -38,21 +34,6 @@ std::uint64_t HashName(int section, std::string_view name) {
 }
 
 } // namespace
-
-bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    if (a == b) {
-        return true; // the usual case, and a fast one
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (LowerAscii(a[i]) != LowerAscii(b[i])) {
-            return false;
-        }
-    }
-    return true;
-}
 
 std::string_view TrimBlanks(std::string_view text) {
     while (!text.empty() && IsBlank(text.front())) {

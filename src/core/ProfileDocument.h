@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TextCase.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -73,9 +75,6 @@ private:
     std::vector<Section> m_sections;
     std::vector<std::uint32_t> m_keySlots; // open addressing: line index + 1, 0 is empty
 };
-
-/// ASCII case-insensitive equality, the comparison of section and key names.
-bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 
 /// Blanks, tabs and stray CRs at either end removed.
 std::string_view TrimBlanks(std::string_view text);

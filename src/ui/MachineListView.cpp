@@ -1,0 +1,69 @@
+#include "MachineListView.h"
+
+#include <QHeaderView>
+
+namespace coinlight {
+
+MachineListView::MachineListView(const char* name, bool marksUnavailable, QWidget* parent)
+    : QTreeView(parent), m_model(marksUnavailable) {
+    setObjectName(QString::fromLatin1(name));
+    setModel(&m_model);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setItemsExpandable(false);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSortingEnabled(false);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorShown(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::Interactive);
+    connect(header(), &QHeaderView::sectionClicked, this, &MachineListView::ColumnClicked);
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid()) {
+                    emit RowSelected(current.row());
+                }
+            });
+    connect(this, &QTreeView::activated, this,
+            [this](const QModelIndex& index) { emit RowActivated(index.row()); });
+}
+
+void MachineListView::SetColumns(std::vector<ColumnSpec> columns, const std::set<int>& hidden) {
+    std::vector<int> widths;
+    for (const auto& column : columns) {
+        widths.push_back(column.twips / kTwipsPerPixel);
+    }
+    m_model.SetColumns(std::move(columns));
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column) {
+        setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+        setColumnHidden(column, hidden.count(column) != 0);
+    }
+}
+
+bool MachineListView::IsColumnHidden(int column) const {
+    return isColumnHidden(column);
+}
+
+void MachineListView::ShowHeaderIcon(int column, int order) {
+    header()->setSortIndicator(column, order == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+int MachineListView::SelectedRow() const {
+    const QModelIndex current = currentIndex();
+    return current.isValid() ? current.row() : -1;
+}
+
+void MachineListView::SelectRow(int row) {
+    if (row < 0 || row >= m_model.rowCount()) {
+        return;
+    }
+    const QModelIndex index = m_model.index(row, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                 QItemSelectionModel::Rows);
+    scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+} // namespace coinlight

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <set>
+
+#include <QTreeView>
+
+#include "MachineListModel.h"
+
+namespace coinlight {
+
+/// A machine list as the user sees it: one line per machine, fixed row height, columns as
+/// wide as designed, a sort arrow on the sorted column. Clicking a header asks the owner to
+/// sort (the owner keeps the saved sort state); the view never sorts by itself.
+class MachineListView final : public QTreeView {
+    Q_OBJECT
+public:
+    MachineListView(const char* name, bool marksUnavailable, QWidget* parent = nullptr);
+
+    MachineListModel& Model() { return m_model; }
+    const MachineListModel& Model() const { return m_model; }
+
+    /// Sets the columns with their designed widths; `hidden` columns get no width at all.
+    void SetColumns(std::vector<ColumnSpec> columns, const std::set<int>& hidden);
+    bool IsColumnHidden(int column) const;
+
+    /// The arrow on one column only, pointing by `order` (0 up, 1 down).
+    void ShowHeaderIcon(int column, int order);
+
+    /// The selected row, or -1.
+    int SelectedRow() const;
+    void SelectRow(int row);
+    const MachineRow* SelectedMachine() const { return m_model.Row(SelectedRow()); }
+
+signals:
+    void ColumnClicked(int column);
+    void RowSelected(int row);
+    void RowActivated(int row);
+
+private:
+    MachineListModel m_model;
+};
+
+} // namespace coinlight
