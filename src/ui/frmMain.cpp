@@ -1,12 +1,14 @@
 #include "frmMain.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
-#include <QVBoxLayout>
 
+#include "MachineListView.h"
 #include "Prompter.h"
-#include "core/AppFolders.h"
 #include "core/FileTests.h"
 #include "core/OptionsIni.h"
 #include "frmCover.h"
@@ -14,52 +16,83 @@
 
 namespace coinlight {
 
-namespace {
-
-constexpr int kDesignedWidth = 1100;
-constexpr int kDesignedHeight = 720;
-
-QFrame* AddFrame(QWidget* parent, QLayout* layout, const char* name) {
-    auto* frame = new QFrame(parent);
-    frame->setObjectName(QString::fromLatin1(name));
-    layout->addWidget(frame);
-    return frame;
-}
-
-QString ToQString(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
-
-} // namespace
-
 frmMain::frmMain(AppContext& context, Prompter& prompter, QWidget* parent)
-    : QMainWindow(parent), m_context(context), m_prompter(prompter) {
+    : QMainWindow(parent), m_context(context), m_prompter(prompter),
+      m_controls(BuildMainControls(*this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Coinlight"));
-    BuildForm();
+    m_arcadeRows = std::make_shared<std::vector<MachineRow>>();
+    m_otherRows = std::make_shared<std::vector<MachineRow>>();
+    ConnectControls();
 }
 
 frmMain::~frmMain() {
     UnloadAllForms();
 }
 
-void frmMain::BuildForm() {
-    auto* central = new QWidget(this);
-    auto* layout = new QVBoxLayout(central);
-    m_fraList = AddFrame(central, layout, "fraList");
-    m_fraVerify = AddFrame(central, layout, "fraVerify");
-    m_fraDefaults = AddFrame(central, layout, "fraDefaults");
-    m_fraMaintenance = AddFrame(central, layout, "fraMaintenance");
-    m_fraVerify->hide();
-    m_fraDefaults->hide();
-    m_fraMaintenance->hide();
-    auto* listLayout = new QVBoxLayout(m_fraList);
-    m_lblStatus = new QLabel(m_fraList);
-    m_lblStatus->setObjectName(QStringLiteral("lblStatus"));
-    m_lblStatus->setAlignment(Qt::AlignCenter);
-    m_lblStatus->setWordWrap(true);
-    listLayout->addWidget(m_lblStatus);
-    setCentralWidget(central);
+void frmMain::ConnectControls() {
+    const MainControls& c = m_controls;
+    connect(c.mnuViewAll, &QAction::triggered, this, &frmMain::ViewAllArcade);
+    connect(c.mnuViewAvailable, &QAction::triggered, this, &frmMain::ViewAvailableArcade);
+    connect(c.mnuViewUnavailable, &QAction::triggered, this, &frmMain::ViewUnavailableArcade);
+    connect(c.mnuViewOtherMachines, &QAction::triggered, this, &frmMain::ViewOther);
+    connect(c.mnuViewArcadeFavorites, &QAction::triggered, this, &frmMain::ViewFavoritesArcade);
+    connect(c.mnuViewOtherFavorites, &QAction::triggered, this, &frmMain::ViewFavoritesOther);
+    connect(c.mnuMainOptions, &QAction::triggered, this, [this] {
+        Options();
+        FixAllHidden();
+    });
+    connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
+    connect(c.cmdGameList, &QPushButton::clicked, this, &frmMain::ReturnList1);
+    for (std::size_t index = 0; index < c.lblBLinks.size(); ++index) {
+        if (c.lblBLinks[index] != nullptr) {
+            connect(c.lblBLinks[index], &QLabel::linkActivated, this,
+                    [this, index] { LinkClicked(static_cast<int>(index)); });
+        }
+    }
+    connect(c.lblToggle, &QLabel::linkActivated, this, [this] {
+        const std::string& view = m_context.preferences.view.listView;
+        if (view == "All Arcade Machines") {
+            ViewAvailableArcade();
+        } else if (view == "Available Arcade Machines") {
+            ViewUnavailableArcade();
+        } else if (view == "Unavailable Arcade Machines") {
+            ViewAllArcade();
+        }
+    });
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvOther}) {
+        connect(list, &MachineListView::ColumnClicked, this,
+                [this, list](int column) { SortColumn(*list, column); });
+        connect(list, &MachineListView::RowSelected, this, [this, list] { ShowDetails(*list); });
+    }
+    connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
+    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
+    connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
+    connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
+        m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
+    });
+}
+
+void frmMain::LinkClicked(int index) {
+    switch (index) {
+    case LinkExit:
+        close();
+        break;
+    case LinkStart:
+        if (m_inOtherView) {
+            PlayOther();
+        } else {
+            PlayArcade();
+        }
+        break;
+    case LinkReturnList1:
+        ReturnList1();
+        break;
+    default:
+        break; // the commands behind the other links come with their screens
+    }
 }
 
 frmSplash& frmMain::Splash() {
@@ -69,138 +102,14 @@ frmSplash& frmMain::Splash() {
     return *m_splash;
 }
 
-void frmMain::CentreOnScreen() {
-    resize(kDesignedWidth, kDesignedHeight);
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    if (screen != nullptr) {
-        const QRect available = screen->availableGeometry();
-        move(available.center() - rect().center());
+void frmMain::Pump() {
+    // Let the interface breathe during long loops, but not for every record: a check of the
+    // clock is cheap, a pass of the event loop is not.
+    static QElapsedTimer sinceLast;
+    if (!sinceLast.isValid() || sinceLast.elapsed() > 100) {
+        QApplication::processEvents();
+        sinceLast.restart();
     }
-    m_normalGeometry = geometry();
-}
-
-bool frmMain::FormLoad() {
-    ControlFlags& flags = m_context.flags;
-    flags.formLoading = true;
-    CentreOnScreen();
-    const EnvironmentLookup environment = ProcessEnvironment();
-    m_context.os = environment("OS").value_or("");
-    m_context.facts.ideMode = IsIdeMode(environment);
-    m_context.facts.hasCatver = FileExists(m_context.data.Support() / "catver.ini");
-
-    const bool ok = PrepareFolders() && LoadOptions();
-    flags.formLoading = false;
-    if (!ok || flags.fatalErrorFlag || flags.closeRequested) {
-        UnloadAllForms();
-        return false;
-    }
-    if (!m_splash.isNull()) {
-        m_splash->close();
-    }
-    ShowCover();
-    return true;
-}
-
-bool frmMain::PrepareFolders() {
-    if (const auto problem = MakeFolderTree(m_context.data)) {
-        FatalLoadError(QString::fromStdString(*problem), 9);
-        return false;
-    }
-    if (const auto problem = MigrateOldNames(m_context.data)) {
-        FatalLoadError(QString::fromStdString(*problem), 9);
-        return false;
-    }
-    InstallSupportFiles(FindDistributionSupport(m_context.appFolder), m_context.data);
-    m_context.markers = ReadMarkerFlags(m_context.data);
-    return true;
-}
-
-bool frmMain::LoadOptions() {
-    for (;;) {
-        const bool hasOptions = FileExists(m_context.data.OptionsIni());
-        const bool hasCatalogue = FileExists(m_context.data.Output() / "machine.xml");
-        if (!hasOptions || !hasCatalogue) {
-            return FirstRunBranch();
-        }
-        bool startOver = false;
-        if (!ReadBranch(startOver)) {
-            return false;
-        }
-        if (!startOver) {
-            return true;
-        }
-        // A file that would not go away would bring us back here for ever.
-        if (FileExists(m_context.data.OptionsIni())) {
-            FatalLoadError(
-                QStringLiteral("Cannot delete ") + ToQString(m_context.data.OptionsIni()), 11);
-            return false;
-        }
-    }
-}
-
-bool frmMain::ReadBranch(bool& startOver) {
-    const auto file = m_context.data.OptionsIni();
-    const OptionsReadResult result = ReadOptionsIni(file, m_context.preferences);
-    switch (result.status) {
-    case OptionsReadStatus::VersionTooOld:
-        if (!m_prompter.AskYesNo(QString::fromLatin1(kOptionsRecreateQuestion))) {
-            m_context.flags.closeRequested = true;
-            return false;
-        }
-        DiscardOptions(file, m_context.preferences);
-        startOver = true;
-        return true;
-    case OptionsReadStatus::Problem:
-        RecoverFromBadOptions();
-        startOver = true;
-        return true;
-    case OptionsReadStatus::Ok:
-        break;
-    }
-    if (m_context.preferences.mame.mameExeSize == 0) {
-        RecoverFromBadOptions();
-        startOver = true;
-        return true;
-    }
-    if (m_context.preferences.view.windowState == 2) {
-        setWindowState(Qt::WindowMaximized);
-    }
-    m_lblStatus->setText(QStringLiteral("MAME: ") +
-                         QString::fromStdString(m_context.preferences.searchPaths.mame));
-    return true;
-}
-
-void frmMain::RecoverFromBadOptions() {
-    DiscardOptions(m_context.data.OptionsIni(), m_context.preferences);
-    m_prompter.Inform(QString::fromLatin1(kOptionsProblemMessage));
-}
-
-bool frmMain::FirstRunBranch() {
-    // The defaults the interface needs before any file exists.
-    m_context.preferences = Preferences{};
-    if (!ShowOptionsAtFirstRun()) {
-        return false;
-    }
-    for (const char* name : {"machine.xml", "software.xml"}) {
-        std::error_code ignored;
-        std::filesystem::remove(m_context.data.Output() / name, ignored);
-    }
-    return !m_context.flags.closeRequested;
-}
-
-bool frmMain::ShowOptionsAtFirstRun() {
-    // Until the Options dialog exists there is nothing to set up with: say so plainly.
-    m_lblStatus->setText(
-        QStringLiteral("Coinlight has not been set up yet: Options will ask where MAME is."));
-    return !m_context.flags.fatalErrorFlag;
-}
-
-void frmMain::FatalLoadError(const QString& description, int statement) {
-    m_prompter.Message(QStringLiteral("Coinlight"),
-                       QStringLiteral("Error In Form_Load: ") + description +
-                           QStringLiteral("\nLine Number: ") + QString::number(statement),
-                       PromptIcon::Critical);
-    m_context.flags.closeRequested = true;
 }
 
 void frmMain::ShowCover() {
@@ -231,7 +140,8 @@ void frmMain::RaiseFromAnotherStart() {
 }
 
 void frmMain::AutoRunAtStart() {
-    // Starting a machine arrives with the launch code; until then there is nothing to run.
+    m_controls.chkAutoRun->setChecked(true);
+    PlayArcade();
 }
 
 void frmMain::NewsAtStart() {
@@ -239,7 +149,70 @@ void frmMain::NewsAtStart() {
 }
 
 void frmMain::StartScrolling() {
-    // The information line arrives with the list views.
+    // The information line arrives with the information panel.
+}
+
+void frmMain::DisableFormButtons() {
+    const MainControls& c = m_controls;
+    for (QWidget* control :
+         {static_cast<QWidget*>(c.cmdArcadeSettings), static_cast<QWidget*>(c.cmdOtherSettings),
+          static_cast<QWidget*>(c.cmdFind), static_cast<QWidget*>(c.lblBLinks[LinkArcadeSettings]),
+          static_cast<QWidget*>(c.lblBLinks[LinkOtherSettings]),
+          static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
+        control->setEnabled(false);
+    }
+    c.picSoftware->hide();
+    SetFamilyCheckBoxes(false);
+}
+
+void frmMain::ShowPleaseWait(const QString& line1, const QString& line2) {
+    const MainControls& c = m_controls;
+    c.lblRefresh[0]->setText(line1);
+    c.lblRefresh[3]->setText(line2);
+    for (int i : {1, 2, 4}) {
+        c.lblRefresh[static_cast<std::size_t>(i)]->clear();
+    }
+    ShowPage(c.fraPleaseWait);
+    c.fraPleaseWait->repaint();
+}
+
+void frmMain::PanelTextHide() {
+    for (QLabel* label : m_controls.lblPanel) {
+        label->clear();
+    }
+}
+
+void frmMain::ShowPage(QWidget* page) {
+    m_controls.pages->setCurrentWidget(page);
+}
+
+void frmMain::SetFamilyCheckBoxes(bool visible) {
+    const MainControls& c = m_controls;
+    for (QCheckBox* box : {c.chkAutoSave, c.chkAutoRun, c.chkRecord, c.chkPlayback}) {
+        box->setVisible(visible);
+    }
+}
+
+void frmMain::SetStartCommands(bool enabled) {
+    m_controls.cmdStart->setEnabled(enabled);
+    m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
+}
+
+void frmMain::SetLinksOrButtons() {
+    const MainControls& c = m_controls;
+    const bool links = m_context.preferences.other.useLinks;
+    const std::pair<QWidget*, int> twins[] = {{c.cmdArcadeSettings, LinkArcadeSettings},
+                                              {c.cmdOtherSettings, LinkOtherSettings},
+                                              {c.cmdFind, LinkFind},
+                                              {c.cmdExit, LinkExit},
+                                              {c.cmdStart, LinkStart},
+                                              {c.cmdAudit, LinkAudit},
+                                              {c.cmdInfo, LinkInfo},
+                                              {c.cmdGameList, LinkReturnList1}};
+    for (const auto& [button, link] : twins) {
+        button->setVisible(!links);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
+    }
 }
 
 void frmMain::EmptyTempFolder() {
@@ -262,15 +235,55 @@ void frmMain::UnloadAllForms() {
     }
 }
 
+void frmMain::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (m_activatedOnce) {
+        return;
+    }
+    m_activatedOnce = true;
+    if (m_openOptionsOnActivate) {
+        m_openOptionsOnActivate = false;
+        // After the window is up: a modal dialog before it would open over nothing.
+        QMetaObject::invokeMethod(this, &frmMain::Options, Qt::QueuedConnection);
+    }
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    QWidget* page = m_controls.pages->currentWidget();
+    if (page == m_controls.fraList) {
+        LinkClicked(LinkStart);
+    } else if (page == m_controls.fraVerify) {
+        ReturnList1();
+    } else if (page == m_controls.fraMaintenance) {
+        ReturnList2();
+    }
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
-    EmptyTempFolder();
-    const ControlFlags& flags = m_context.flags;
-    const auto options = m_context.data.OptionsIni();
-    if (!flags.fatalErrorFlag && !flags.closeRequested && FileExists(options)) {
-        m_context.preferences.view.windowState = isMaximized() ? 2 : 0;
-        std::string error;
-        if (!SaveViewState(options, m_context.preferences, &error)) {
-            m_prompter.Inform(QString::fromStdString(error), PromptIcon::Warning);
+    // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
+    const bool settingsOpen =
+        m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
+        m_controls.lblBLinks[LinkExit]->text().contains(QStringLiteral(">Cancel<"));
+    if (!settingsOpen) {
+        EmptyTempFolder();
+        const ControlFlags& flags = m_context.flags;
+        const auto options = m_context.data.OptionsIni();
+        if (!flags.fatalErrorFlag && !flags.closeRequested && FileExists(options)) {
+            m_context.preferences.view.windowState = isMaximized() ? 2 : 0;
+            for (MachineListView* list : {m_controls.lvAll, m_controls.lvAvailable,
+                                          m_controls.lvUnavailable, m_controls.lvOther}) {
+                const MachineRow* row = list->SelectedMachine();
+                SavedStateOf(*list).key =
+                    row != nullptr ? "k." + std::string(row->ShortName()) : std::string();
+            }
+            std::string error;
+            if (!SaveViewState(options, m_context.preferences, &error)) {
+                m_prompter.Inform(QString::fromStdString(error), PromptIcon::Warning);
+            }
         }
     }
     UnloadAllForms();

@@ -1,20 +1,28 @@
 #pragma once
 
-#include <QFrame>
-#include <QLabel>
+#include <memory>
+#include <set>
+#include <vector>
+
 #include <QMainWindow>
 #include <QPointer>
 
+#include "MainControls.h"
 #include "core/AppContext.h"
+#include "lists/MachineRow.h"
+#include "lists/SelectionDetails.h"
 
 namespace coinlight {
 
+class MachineListView;
 class Prompter;
 class frmCover;
 class frmSplash;
 
 /// The main window. Its load is the program's real start: folders, preferences, catalogue,
-/// lists and look, in a fixed order, before the window is shown.
+/// lists and look, in a fixed order, before the window is shown. Its public methods are the
+/// user's commands; each reads as the routine's steps, the work itself lies in the logic
+/// libraries.
 class frmMain final : public QMainWindow {
     Q_OBJECT
 public:
@@ -24,24 +32,45 @@ public:
     /// Runs the start sequence. False when the program must end; the user has been told why.
     bool FormLoad();
 
-    /// Lays the cover over the window while it paints; UnloadCover takes it away.
     void ShowCover();
     void UnloadCover();
-
-    /// Brings the window back to the front, restored if it was minimised.
     void RaiseFromAnotherStart();
 
-    /// The steps that follow the load: the machine left selected starts at once when the
-    /// user asked for that; fresh news is shown; the information line starts moving.
+    /// The steps that follow the load in the entry point.
     void AutoRunAtStart();
     void NewsAtStart();
     void StartScrolling();
 
+    // Views
+    void ViewAllArcade();
+    void ViewAvailableArcade();
+    void ViewUnavailableArcade();
+    void ViewOther();
+    void ViewFavoritesArcade();
+    void ViewFavoritesOther();
+    void ReturnList1();
+    void ReturnList2();
+
+    // Lists
+    void RefreshListsArcade();
+    void RefreshListsOther();
+    void SortColumn(MachineListView& list, int column);
+
+    // Commands
+    void Options();
+    void PlayArcade();
+    void PlayOther();
+
+    const MainControls& Controls() const { return m_controls; }
+    bool InOtherView() const { return m_inOtherView; }
+
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
-    void BuildForm();
+    // The load, step by step
     void CentreOnScreen();
     bool PrepareFolders();
     bool LoadOptions();
@@ -49,21 +78,68 @@ private:
     bool FirstRunBranch();
     void RecoverFromBadOptions();
     bool ShowOptionsAtFirstRun();
+    bool CheckSupportChanges();
+    bool RebuildCatalogue(bool newMame);
+    bool MergeCategories();
+    bool PurgeAllFavorites();
+    bool RegenerateIfMissing();
+    void WriteSupportSizes();
+    void BuildListColumns();
+    void ResetHiddenSortKeys();
+    bool LoadAllLists();
+    void RestoreSelections();
+    void ShowSavedView();
+    void FixAllHidden();
     void FatalLoadError(const QString& description, int statement);
+
+    // Lists
+    bool LoadListsArcade();
+    bool LoadListsOther();
+    void ReportLoadCount(bool arcade, int rows);
+    void ShowListInView(MachineListView& list, const ListState& saved);
+    MachineListView* ListOfView();
+    ListState& SavedStateOf(const MachineListView& list);
+    void ShowDetails(MachineListView& list);
+    void ApplyDetails(const SelectionDetails& details);
+    DetailsSource DetailsSourceOf(const MachineListView& list, const MachineRow& row) const;
+
+    // Form state
+    void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
+    void SetFrameCaption(const QString& view);
+    void TickView(QAction* entry);
+    void UpdateCommandSet();
+    void SetStartCommands(bool enabled);
+    void SetFamilyCheckBoxes(bool visible);
+    void DisableFormButtons();
+    void ShowPleaseWait(const QString& line1, const QString& line2);
+    void PanelTextHide();
+    void PanelClearSoftware();
+    void ShowPage(QWidget* page);
+    void SetLinksOrButtons();
+    void LinkClicked(int index);
+    void ConnectControls();
     void EmptyTempFolder();
     void UnloadAllForms();
     frmSplash& Splash();
+    void Pump();
 
     AppContext& m_context;
     Prompter& m_prompter;
+    MainControls m_controls;
     QPointer<frmSplash> m_splash;
     QPointer<frmCover> m_cover;
-    QFrame* m_fraList = nullptr;
-    QFrame* m_fraVerify = nullptr;
-    QFrame* m_fraDefaults = nullptr;
-    QFrame* m_fraMaintenance = nullptr;
-    QLabel* m_lblStatus = nullptr;
     QRect m_normalGeometry;
+
+    std::shared_ptr<std::vector<MachineRow>> m_arcadeRows;
+    std::shared_ptr<std::vector<MachineRow>> m_otherRows;
+    std::vector<std::string> m_arcadeRomFolders;
+    std::vector<std::string> m_otherRomFolders;
+    std::set<int> m_hiddenColumns;
+    long long m_currentMameSize = 0;
+    bool m_inOtherView = false;
+    bool m_openOptionsOnActivate = false;
+    bool m_refreshBothFamilies = false;
+    bool m_activatedOnce = false;
 };
 
 } // namespace coinlight

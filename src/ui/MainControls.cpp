@@ -1,0 +1,258 @@
+#include "MainControls.h"
+
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "MachineListView.h"
+
+namespace coinlight {
+
+namespace {
+
+template <class Widget> Widget* Named(Widget* widget, const QString& name) {
+    widget->setObjectName(name);
+    return widget;
+}
+
+QString IndexedName(const char* name, int index) {
+    return QStringLiteral("%1_%2").arg(QString::fromLatin1(name)).arg(index);
+}
+
+QAction* AddAction(QMenu* menu, const char* name, const QString& caption, bool checkable = false) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setCheckable(checkable);
+    return action;
+}
+
+QPushButton* AddButton(QWidget* parent, const char* name, const QString& caption,
+                       const QString& tip = {}) {
+    auto* button = Named(new QPushButton(caption, parent), QString::fromLatin1(name));
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QString& caption) {
+    auto* link = Named(new QLabel(parent), IndexedName("lblBLinks", index));
+    SetLinkText(link, caption);
+    link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    link->setFocusPolicy(Qt::TabFocus);
+    controls.lblBLinks[static_cast<std::size_t>(index)] = link;
+    return link;
+}
+
+void BuildMenus(QMainWindow& window, MainControls& c) {
+    QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
+    main->setObjectName(QStringLiteral("mnuMain"));
+    c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
+
+    c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
+    c.mnuView->setObjectName(QStringLiteral("mnuView"));
+    c.mnuViewAll = AddAction(c.mnuView, "mnuViewAll", QStringLiteral("All Arcade Machines"), true);
+    c.mnuViewAvailable =
+        AddAction(c.mnuView, "mnuViewAvailable", QStringLiteral("Available Arcade Machines"), true);
+    c.mnuViewUnavailable = AddAction(c.mnuView, "mnuViewUnavailable",
+                                     QStringLiteral("Unavailable Arcade Machines"), true);
+    c.mnuViewArcadeFavorites = AddAction(c.mnuView, "mnuViewArcadeFavorites",
+                                         QStringLiteral("Favorite Arcade Machines"), true);
+    c.mnuView->addSeparator();
+    c.mnuViewOtherMachines =
+        AddAction(c.mnuView, "mnuViewOtherMachines", QStringLiteral("Other Machines"), true);
+    c.mnuViewOtherFavorites = AddAction(c.mnuView, "mnuViewOtherFavorites",
+                                        QStringLiteral("Favorite Other Machines"), true);
+    c.mnuView->addSeparator();
+    c.mnuViewShots = AddAction(c.mnuView, "mnuViewShots", QStringLiteral("Snapshots"), true);
+
+    QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
+    tools->setObjectName(QStringLiteral("mnuTools"));
+    c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
+}
+
+QWidget* BuildListFrame(MainControls& c) {
+    c.fraList =
+        Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
+    auto* layout = new QVBoxLayout(c.fraList);
+    c.lblToggle = Named(new QLabel, QStringLiteral("lblToggle"));
+    SetLinkText(c.lblToggle, QStringLiteral("\u25C6"));
+    c.lblToggle->setToolTip(QStringLiteral("Next arcade list"));
+    c.lblToggle->setCursor(Qt::PointingHandCursor);
+    auto* top = new QHBoxLayout;
+    top->addStretch();
+    top->addWidget(c.lblToggle);
+    layout->addLayout(top);
+
+    c.lists = Named(new QStackedWidget, QStringLiteral("lists"));
+    c.lvAll = new MachineListView("lvAll", false);
+    c.lvAvailable = new MachineListView("lvAvailable", false);
+    c.lvUnavailable = new MachineListView("lvUnavailable", false);
+    c.lvOther = new MachineListView("lvOther", true);
+    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSpacer = Named(new QWidget, QStringLiteral("picSpacer"));
+    auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
+    other->addWidget(c.lvOther);
+    other->addWidget(c.lvSoftware);
+    other->setStretchFactor(0, 3);
+    other->setStretchFactor(1, 2);
+    c.otherPage = other;
+    for (QWidget* list : {static_cast<QWidget*>(c.lvAll), static_cast<QWidget*>(c.lvAvailable),
+                          static_cast<QWidget*>(c.lvUnavailable), c.otherPage}) {
+        c.lists->addWidget(list);
+    }
+    layout->addWidget(c.lists);
+    return c.fraList;
+}
+
+QWidget* BuildVerifyFrame(MainControls& c) {
+    c.fraVerify = Named(new QGroupBox, QStringLiteral("fraVerify"));
+    auto* layout = new QVBoxLayout(c.fraVerify);
+    c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
+    c.rtfVerify->setOpenExternalLinks(false);
+    c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
+    layout->addWidget(c.rtfVerify);
+    auto* commands = new QHBoxLayout;
+    c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
+                              QStringLiteral("Returns To The Machine List"));
+    commands->addWidget(c.cmdGameList);
+    commands->addWidget(AddLink(c.fraVerify, c, LinkReturnList1, QStringLiteral("Return")));
+    commands->addStretch();
+    layout->addLayout(commands);
+    return c.fraVerify;
+}
+
+QWidget* BuildPleaseWait(MainControls& c) {
+    c.fraPleaseWait = Named(new QGroupBox, QStringLiteral("fraPleaseWait"));
+    auto* layout = new QVBoxLayout(c.fraPleaseWait);
+    layout->addStretch();
+    for (int i = 0; i < 5; ++i) {
+        auto* label = Named(new QLabel, IndexedName("lblRefresh", i));
+        label->setAlignment(Qt::AlignCenter);
+        c.lblRefresh[static_cast<std::size_t>(i)] = label;
+        layout->addWidget(label);
+    }
+    QFont big = c.lblRefresh[0]->font();
+    big.setPointSize(big.pointSize() + 4);
+    big.setBold(true);
+    c.lblRefresh[0]->setFont(big);
+    layout->addStretch();
+    return c.fraPleaseWait;
+}
+
+QLayout* BuildDetailsStrip(MainControls& c) {
+    auto* strip = new QHBoxLayout;
+    const int stretch[7] = {2, 6, 2, 2, 1, 1, 3};
+    for (int i = 0; i < 7; ++i) {
+        auto* label = Named(new QLabel, IndexedName("lblPanel", i));
+        label->setFrameShape(QFrame::StyledPanel);
+        label->setFrameShadow(QFrame::Sunken);
+        label->setMinimumWidth(24);
+        label->setTextFormat(Qt::PlainText);
+        c.lblPanel[static_cast<std::size_t>(i)] = label;
+        strip->addWidget(label, stretch[i]);
+    }
+    return strip;
+}
+
+QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
+    auto* row = new QHBoxLayout;
+    c.cmdStart = AddButton(parent, "cmdStart", QStringLiteral("&Start"),
+                           QStringLiteral("Starts The Selected Machine"));
+    c.cmdAudit = AddButton(parent, "cmdAudit", QStringLiteral("&Audit"),
+                           QStringLiteral("Audits The Selected Machine"));
+    c.cmdInfo = AddButton(parent, "cmdInfo", QStringLiteral("&Info"),
+                          QStringLiteral("Information About The Selected Machine"));
+    row->addWidget(c.cmdStart);
+    row->addWidget(AddLink(parent, c, LinkStart, QStringLiteral("Start")));
+    row->addWidget(c.cmdAudit);
+    row->addWidget(AddLink(parent, c, LinkAudit, QStringLiteral("Audit")));
+    row->addWidget(c.cmdInfo);
+    row->addWidget(AddLink(parent, c, LinkInfo, QStringLiteral("Info")));
+    row->addSpacing(24);
+    c.chkAutoSave =
+        Named(new QCheckBox(QStringLiteral("Auto Save")), QStringLiteral("chkAutoSave"));
+    c.chkAutoRun = Named(new QCheckBox(QStringLiteral("Auto Run")), QStringLiteral("chkAutoRun"));
+    c.chkRecord = Named(new QCheckBox(QStringLiteral("Record")), QStringLiteral("chkRecord"));
+    c.chkPlayback = Named(new QCheckBox(QStringLiteral("Playback")), QStringLiteral("chkPlayback"));
+    for (QCheckBox* box : {c.chkAutoSave, c.chkAutoRun, c.chkRecord, c.chkPlayback}) {
+        row->addWidget(box);
+    }
+    row->addStretch();
+    return row;
+}
+
+QWidget* BuildSideColumn(MainControls& c) {
+    auto* side = Named(new QWidget, QStringLiteral("picSide"));
+    auto* layout = new QVBoxLayout(side);
+    c.lblShots = Named(new QLabel, QStringLiteral("lblShots"));
+    c.lblShots->setWordWrap(true);
+    c.lblShots->setAlignment(Qt::AlignCenter);
+    c.lblShots->hide();
+    layout->addWidget(c.lblShots);
+    c.cmdArcadeSettings = AddButton(side, "cmdArcadeSettings", QStringLiteral("Arcade Settings"),
+                                    QStringLiteral("Settings For Arcade Machines"));
+    c.cmdOtherSettings = AddButton(side, "cmdOtherSettings", QStringLiteral("Other Settings"),
+                                   QStringLiteral("Settings For Other Machines"));
+    c.cmdFind =
+        AddButton(side, "cmdFind", QStringLiteral("&MAME.Ini"),
+                  QStringLiteral("The MAME.Ini File That Will Be Used For The Selected Game"));
+    c.cmdExit =
+        AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
+    layout->addWidget(c.cmdArcadeSettings);
+    layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
+    layout->addWidget(c.cmdOtherSettings);
+    layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
+    layout->addWidget(c.cmdFind);
+    layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
+    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
+    c.picSoftware->hide();
+    layout->addWidget(c.picSoftware);
+    layout->addStretch();
+    c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
+    c.lblVersion->setAlignment(Qt::AlignCenter);
+    layout->addWidget(c.lblVersion);
+    layout->addWidget(c.cmdExit);
+    layout->addWidget(AddLink(side, c, LinkExit, QStringLiteral("Exit")));
+    side->setFixedWidth(2430 / 15 + 40);
+    return side;
+}
+
+} // namespace
+
+void SetLinkText(QLabel* link, const QString& text) {
+    link->setText(QStringLiteral("<a href=\"#\">%1</a>").arg(text.toHtmlEscaped()));
+}
+
+MainControls BuildMainControls(QMainWindow& window) {
+    MainControls c;
+    BuildMenus(window, c);
+
+    auto* central = Named(new QWidget(&window), QStringLiteral("central"));
+    auto* outer = new QVBoxLayout(central);
+    auto* top = new QHBoxLayout;
+    auto* left = new QVBoxLayout;
+
+    c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
+    c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
+    c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
+    for (QWidget* page :
+         {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),
+          static_cast<QWidget*>(c.fraMaintenance), BuildPleaseWait(c)}) {
+        c.pages->addWidget(page);
+    }
+    left->addWidget(c.pages, 1);
+    left->addLayout(BuildDetailsStrip(c));
+    left->addLayout(BuildStartRow(central, c));
+    top->addLayout(left, 1);
+    top->addWidget(BuildSideColumn(c));
+    outer->addLayout(top, 1);
+
+    c.lblScroll = Named(new QLabel, QStringLiteral("lblScroll"));
+    outer->addWidget(c.lblScroll);
+    window.setCentralWidget(central);
+    return c;
+}
+
+} // namespace coinlight

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <array>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTextBrowser>
+
+class QMainWindow;
+
+namespace coinlight {
+
+class MachineListView;
+
+/// The link-style twins of the command buttons, by their index.
+enum LinkIndex : int {
+    LinkArcadeSettings = 0,
+    LinkOtherSettings = 1,
+    LinkFind = 2,
+    LinkExit = 3,
+    LinkStart = 4,
+    LinkAudit = 5,
+    LinkInfo = 6,
+    LinkReturnList1 = 11,
+    kLinkCount = 12,
+};
+
+/// Every control of the main window, made once by BuildMainControls. Each carries its
+/// control name as objectName (`lblPanel(2)` is `lblPanel_2`), which is how tests and the
+/// theme code find them.
+struct MainControls {
+    // View menu
+    QMenu* mnuView = nullptr;
+    QAction* mnuViewAll = nullptr;
+    QAction* mnuViewAvailable = nullptr;
+    QAction* mnuViewUnavailable = nullptr;
+    QAction* mnuViewOtherMachines = nullptr;
+    QAction* mnuViewArcadeFavorites = nullptr;
+    QAction* mnuViewOtherFavorites = nullptr;
+    QAction* mnuViewShots = nullptr;
+    QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainExit = nullptr;
+
+    // Pages: one of them is on show at a time
+    QStackedWidget* pages = nullptr;
+    QGroupBox* fraList = nullptr;
+    QGroupBox* fraVerify = nullptr;
+    QGroupBox* fraDefaults = nullptr;
+    QGroupBox* fraMaintenance = nullptr;
+    QGroupBox* fraPleaseWait = nullptr;
+    std::array<QLabel*, 5> lblRefresh{};
+
+    // The lists
+    QStackedWidget* lists = nullptr;
+    MachineListView* lvAll = nullptr;
+    MachineListView* lvAvailable = nullptr;
+    MachineListView* lvUnavailable = nullptr;
+    QWidget* otherPage = nullptr;
+    MachineListView* lvOther = nullptr;
+    QWidget* picSpacer = nullptr;
+    MachineListView* lvSoftware = nullptr;
+    QLabel* lblToggle = nullptr;
+
+    QTextBrowser* rtfVerify = nullptr;
+
+    // Details strip and commands
+    std::array<QLabel*, 7> lblPanel{};
+    QPushButton* cmdStart = nullptr;
+    QPushButton* cmdAudit = nullptr;
+    QPushButton* cmdInfo = nullptr;
+    QPushButton* cmdArcadeSettings = nullptr;
+    QPushButton* cmdOtherSettings = nullptr;
+    QPushButton* cmdFind = nullptr;
+    QPushButton* cmdExit = nullptr;
+    QPushButton* cmdGameList = nullptr;
+    std::array<QLabel*, kLinkCount> lblBLinks{};
+    QCheckBox* chkAutoSave = nullptr;
+    QCheckBox* chkAutoRun = nullptr;
+    QCheckBox* chkRecord = nullptr;
+    QCheckBox* chkPlayback = nullptr;
+    QWidget* picSoftware = nullptr;
+    QLabel* lblVersion = nullptr;
+    QLabel* lblScroll = nullptr;
+    QLabel* lblShots = nullptr;
+};
+
+/// Makes the controls, lays them out in `window` and returns them.
+MainControls BuildMainControls(QMainWindow& window);
+
+/// A label that reads like a link; clicking it emits linkActivated.
+void SetLinkText(QLabel* link, const QString& text);
+
+} // namespace coinlight

@@ -1,0 +1,258 @@
+// Filling the lists from the catalogue, refreshing them after a change, and sorting.
+#include <QApplication>
+
+#include "MachineListView.h"
+#include "Prompter.h"
+#include "core/FileTests.h"
+#include "core/ProfileFile.h"
+#include "frmMain.h"
+#include "frmSplash.h"
+#include "lists/ListLoader.h"
+
+namespace coinlight {
+
+namespace {
+
+/// The hourglass for as long as a routine runs.
+class WaitCursor {
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace
+
+void frmMain::ReportLoadCount(bool arcade, int rows) {
+    const QString count = QString::number(rows);
+    if (m_context.flags.formLoading) {
+        if (arcade) {
+            Splash().SetArcadeCount(count);
+        } else {
+            Splash().SetOtherCount(count);
+        }
+    } else {
+        m_controls.lblRefresh[4]->setText(count);
+        m_controls.lblRefresh[4]->repaint();
+    }
+}
+
+bool frmMain::LoadListsArcade() {
+    const WaitCursor hourglass;
+    Preferences& preferences = m_context.preferences;
+    if (m_context.flags.formLoading) {
+        Splash().SetMessage(QStringLiteral("Populating machine lists..."));
+    } else {
+        m_controls.lblRefresh[3]->setText(QStringLiteral("Arcade Machines:"));
+        m_controls.lblRefresh[3]->repaint();
+    }
+    auto file = m_context.data.Output() / "arcadeinfo.txt";
+    if (preferences.view.favoriteArcade) {
+        const auto favourites = m_context.data.Output() / "arcadefavs.txt";
+        if (FileExists(favourites)) {
+            file = favourites;
+        } else {
+            preferences.view.favoriteArcade = false;
+            m_controls.mnuViewArcadeFavorites->setChecked(false);
+        }
+    }
+    ListLoadOptions options;
+    options.filters = ListFilterSettings::ForArcade(preferences);
+    options.mergedRomSets = preferences.other.mergedRomSets;
+    options.skipSearch = m_context.markers.skipSearch;
+    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{} : m_arcadeRomFolders);
+    options.roms = &roms;
+    if (m_context.facts.hasNPlayers) {
+        options.nplayers = LoadProfile(m_context.data.Support() / "nplayers.ini");
+    }
+    LoadedList loaded = LoadArcadeList(file, options,
+                                       {[this](int rows) { ReportLoadCount(true, rows); },
+                                        [this] {
+                                            Pump();
+                                        }});
+    if (!loaded.error.empty()) {
+        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
+        m_context.flags.fatalErrorFlag = true;
+        return false;
+    }
+    auto rows = std::make_shared<std::vector<MachineRow>>(std::move(loaded.rows));
+    m_controls.lvAll->Model().Reset(rows, AllRows(LoadedList{*rows, {}, {}, {}}));
+    m_controls.lvAvailable->Model().Reset(rows, std::move(loaded.available));
+    m_controls.lvUnavailable->Model().Reset(rows, std::move(loaded.unavailable));
+    m_arcadeRows = std::move(rows);
+    for (MachineListView* list :
+         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
+        list->SelectRow(0);
+    }
+    return true;
+}
+
+bool frmMain::LoadListsOther() {
+    const WaitCursor hourglass;
+    Preferences& preferences = m_context.preferences;
+    if (m_context.flags.formLoading) {
+        Splash().SetMessage(QStringLiteral("Populating machine lists..."));
+        Splash().SetOtherCaption(QStringLiteral("Other Machines:"));
+    } else {
+        m_controls.lblRefresh[3]->setText(QStringLiteral("Other Machines:"));
+        m_controls.lblRefresh[3]->repaint();
+    }
+    // Unlike the arcade list, a missing favourites file is not replaced by the full list:
+    // the load fails and says so.
+    auto file = m_context.data.Output() / "otherinfo.txt";
+    if (preferences.view.favoriteOther) {
+        file = m_context.data.Output() / "otherfavs.txt";
+    } else {
+        m_controls.mnuViewOtherFavorites->setChecked(false);
+    }
+    ListLoadOptions options;
+    options.filters = ListFilterSettings::ForOther(preferences);
+    options.mergedRomSets = preferences.other.mergedRomSets;
+    options.skipSearch = m_context.markers.skipSearch;
+    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{} : m_otherRomFolders);
+    options.roms = &roms;
+    LoadedList loaded = LoadOtherList(file, options,
+                                      {[this](int rows) { ReportLoadCount(false, rows); },
+                                       [this] {
+                                           Pump();
+                                       }});
+    if (!loaded.error.empty()) {
+        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
+        m_context.flags.fatalErrorFlag = true;
+        return false;
+    }
+    auto rows = std::make_shared<std::vector<MachineRow>>(std::move(loaded.rows));
+    m_controls.lvOther->Model().Reset(rows, AllRows(LoadedList{*rows, {}, {}, {}}));
+    m_otherRows = std::move(rows);
+    m_controls.lvOther->SelectRow(0);
+    return true;
+}
+
+void frmMain::SortColumn(MachineListView& list, int column) {
+    MachineListModel& model = list.Model();
+    if (model.rowCount() < 2 || list.IsColumnHidden(column)) {
+        // Nothing to order: the click changes neither the list nor its saved sort.
+        list.ShowHeaderIcon(model.SortKey(), model.SortOrder());
+        return;
+    }
+    const bool descending = column == model.SortKey() ? model.SortOrder() == 0 : false;
+    model.Sort(column, descending);
+    list.ShowHeaderIcon(column, descending ? 1 : 0);
+    ListState& saved = SavedStateOf(list);
+    saved.sortKey = column;
+    saved.sortOrder = descending ? 1 : 0;
+    if (list.SelectedRow() >= 0) {
+        list.scrollTo(list.currentIndex(), QAbstractItemView::EnsureVisible);
+    }
+}
+
+void frmMain::RefreshListsArcade() {
+    const MainControls& c = m_controls;
+    c.lblScroll->clear();
+    SetStartCommands(false);
+    for (QWidget* control :
+         {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
+          static_cast<QWidget*>(c.cmdExit), static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
+          static_cast<QWidget*>(c.lblBLinks[LinkInfo]),
+          static_cast<QWidget*>(c.lblBLinks[LinkExit])}) {
+        control->setEnabled(false);
+    }
+    DisableFormButtons();
+    c.lblToggle->hide();
+    PanelTextHide();
+    const QString wait = QStringLiteral("Please wait while Coinlight refreshes the lists.");
+    const bool hasOther = !m_context.preferences.searchPaths.otherRoms.empty();
+    if (m_refreshBothFamilies && hasOther) {
+        m_refreshBothFamilies = false;
+        ShowPleaseWait(QStringLiteral("Other Machines:"), wait);
+        c.lvOther->Model().Clear();
+        if (!LoadListsOther()) {
+            close();
+            return;
+        }
+    }
+    ShowPleaseWait(QStringLiteral("Arcade Machines:"), wait);
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable}) {
+        list->Model().Clear();
+    }
+    bool loaded = LoadListsArcade();
+    if (loaded && m_openOptionsOnActivate && hasOther) {
+        c.lvOther->Model().Clear();
+        loaded = LoadListsOther();
+    }
+    m_openOptionsOnActivate = false;
+    m_context.flags.listsRegenerating = false;
+    if (!loaded) {
+        close();
+        return;
+    }
+    ShowPage(c.fraList);
+    ShowSavedView();
+    c.cmdExit->setEnabled(true);
+    c.lblBLinks[LinkExit]->setEnabled(true);
+}
+
+void frmMain::RefreshListsOther() {
+    const MainControls& c = m_controls;
+    c.lblScroll->clear();
+    SetStartCommands(false);
+    DisableFormButtons();
+    c.cmdExit->setEnabled(false);
+    c.lblBLinks[LinkExit]->setEnabled(false);
+    PanelTextHide();
+    const QString wait = QStringLiteral("Please wait while Coinlight refreshes the lists.");
+    bool loaded = true;
+    if (m_refreshBothFamilies || m_openOptionsOnActivate) {
+        m_refreshBothFamilies = false;
+        ShowPleaseWait(QStringLiteral("Arcade Machines:"), wait);
+        for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable}) {
+            list->Model().Clear();
+        }
+        loaded = LoadListsArcade();
+    }
+    if (loaded) {
+        ShowPleaseWait(QStringLiteral("Other Machines:"), wait);
+        c.lvOther->Model().Clear();
+        loaded = LoadListsOther();
+    }
+    m_openOptionsOnActivate = false;
+    if (!loaded) {
+        close();
+        return;
+    }
+    ShowPage(c.fraList);
+    ViewOther();
+    c.cmdExit->setEnabled(true);
+    c.lblBLinks[LinkExit]->setEnabled(true);
+}
+
+void frmMain::ViewFavoritesArcade() {
+    Preferences& preferences = m_context.preferences;
+    preferences.view.favoriteArcade = m_controls.mnuViewArcadeFavorites->isChecked();
+    if (FileExists(m_context.data.Output() / "arcadefavs.txt")) {
+        RefreshListsArcade();
+        return;
+    }
+    m_prompter.Message(QStringLiteral("Favorite Arcade Machines"),
+                       QStringLiteral("You do not have an Favorite Arcade Machines list.  "),
+                       PromptIcon::Information);
+    preferences.view.favoriteArcade = false;
+    m_controls.mnuViewArcadeFavorites->setChecked(false);
+}
+
+void frmMain::ViewFavoritesOther() {
+    Preferences& preferences = m_context.preferences;
+    preferences.view.favoriteOther = m_controls.mnuViewOtherFavorites->isChecked();
+    if (FileExists(m_context.data.Output() / "otherfavs.txt")) {
+        RefreshListsOther();
+        return;
+    }
+    m_prompter.Message(QStringLiteral("Favorite Other Machines"),
+                       QStringLiteral("You do not have a Favorite Other Machines list.  "),
+                       PromptIcon::Information);
+    preferences.view.favoriteOther = false;
+    m_controls.mnuViewOtherFavorites->setChecked(false);
+}
+
+} // namespace coinlight

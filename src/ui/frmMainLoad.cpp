@@ -1,0 +1,378 @@
+// The main window's load: the program's start, step by step.
+#include <QApplication>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "MachineListView.h"
+#include "Prompter.h"
+#include "core/AppFolders.h"
+#include "core/FileTests.h"
+#include "core/MarkerFlags.h"
+#include "core/OptionsIni.h"
+#include "core/PreferenceKeys.h"
+#include "core/ProfileFile.h"
+#include "core/Version.h"
+#include "frmMain.h"
+#include "frmSplash.h"
+#include "lists/ListColumns.h"
+
+namespace coinlight {
+
+namespace {
+
+QString ToQString(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+/// The catalogue files that must all be there before a list can load.
+constexpr const char* kCatalogueFiles[] = {
+    "machine.xml",    "software.xml",   "arcadeinfo.txt", "otherinfo.txt", "crcinfo.txt",
+    "biosfilter.txt", "arcadebios.txt", "otherbios.txt",  "bios.ini",      "softfilter.ini"};
+
+std::vector<std::string> SplitPathList(const std::string& paths) {
+    std::vector<std::string> folders;
+    std::size_t start = 0;
+    for (;;) {
+        const std::size_t end = paths.find(';', start);
+        folders.push_back(paths.substr(start, end - start));
+        if (end == std::string::npos) {
+            break;
+        }
+        start = end + 1;
+    }
+    return folders;
+}
+
+} // namespace
+
+void frmMain::CentreOnScreen() {
+    resize(1100, 720);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen != nullptr) {
+        move(screen->availableGeometry().center() - rect().center());
+    }
+    m_normalGeometry = geometry();
+}
+
+bool frmMain::FormLoad() {
+    ControlFlags& flags = m_context.flags;
+    flags.formLoading = true;
+    CentreOnScreen();
+    m_controls.lblShots->setText(
+        QStringLiteral("Oops... image not found.  You can download snapshots online or press F12 "
+                       "while a machine is running to create one."));
+    const EnvironmentLookup environment = ProcessEnvironment();
+    m_context.os = environment("OS").value_or("");
+    m_context.facts.ideMode = IsIdeMode(environment);
+    m_controls.rtfVerify->clear();
+    m_context.facts.hasCatver = FileExists(m_context.data.Support() / "catver.ini");
+    BuildListColumns();
+
+    const bool loaded = PrepareFolders() && LoadOptions() && !flags.fatalErrorFlag &&
+                        !flags.closeRequested && LoadAllLists();
+    if (!loaded || flags.fatalErrorFlag || flags.closeRequested) {
+        flags.formLoading = false;
+        UnloadAllForms();
+        return false;
+    }
+    ShowPage(m_controls.fraList);
+    RestoreSelections();
+    ShowSavedView();
+    m_controls.lblVersion->setText(QStringLiteral("Version: ") +
+                                   QString::fromLatin1(kCoinlightVersion));
+    if (!m_splash.isNull()) {
+        m_splash->close();
+    }
+    SetLinksOrButtons();
+    FixAllHidden();
+    ShowCover();
+    flags.formLoading = false;
+    return true;
+}
+
+bool frmMain::PrepareFolders() {
+    if (const auto problem = MakeFolderTree(m_context.data)) {
+        FatalLoadError(QString::fromStdString(*problem), 9);
+        return false;
+    }
+    if (const auto problem = MigrateOldNames(m_context.data)) {
+        FatalLoadError(QString::fromStdString(*problem), 9);
+        return false;
+    }
+    InstallSupportFiles(FindDistributionSupport(m_context.appFolder), m_context.data);
+    m_context.markers = ReadMarkerFlags(m_context.data);
+    return true;
+}
+
+void frmMain::BuildListColumns() {
+    m_context.facts.hasNPlayers = FileExists(m_context.data.Support() / "nplayers.ini");
+    const auto arcade = ArcadeListColumns(m_context.facts.hasNPlayers);
+    m_hiddenColumns = HiddenColumns(m_context.data, static_cast<int>(arcade.size()));
+    for (MachineListView* list :
+         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
+        list->SetColumns(arcade, m_hiddenColumns);
+    }
+    m_controls.lvOther->SetColumns(OtherListColumns(), m_hiddenColumns);
+}
+
+bool frmMain::LoadOptions() {
+    for (;;) {
+        const bool hasOptions = FileExists(m_context.data.OptionsIni());
+        const bool hasCatalogue = FileExists(m_context.data.Output() / "machine.xml");
+        if (!hasOptions || !hasCatalogue) {
+            return FirstRunBranch();
+        }
+        bool startOver = false;
+        if (!ReadBranch(startOver)) {
+            return false;
+        }
+        if (!startOver) {
+            return true;
+        }
+        // A file that would not go away would bring us back here for ever.
+        if (FileExists(m_context.data.OptionsIni())) {
+            FatalLoadError(
+                QStringLiteral("Cannot delete ") + ToQString(m_context.data.OptionsIni()), 11);
+            return false;
+        }
+    }
+}
+
+bool frmMain::ReadBranch(bool& startOver) {
+    const auto file = m_context.data.OptionsIni();
+    Preferences& preferences = m_context.preferences;
+    const OptionsReadResult result = ReadOptionsIni(file, preferences);
+    if (result.status == OptionsReadStatus::VersionTooOld) {
+        if (!m_prompter.AskYesNo(QString::fromLatin1(kOptionsRecreateQuestion))) {
+            m_context.flags.closeRequested = true;
+            return false;
+        }
+        DiscardOptions(file, preferences);
+        startOver = true;
+        return true;
+    }
+    if (result.status == OptionsReadStatus::Problem) {
+        RecoverFromBadOptions();
+        startOver = true;
+        return true;
+    }
+    ResetHiddenSortKeys();
+    if (preferences.view.windowState == 2) {
+        setWindowState(Qt::WindowMaximized);
+    }
+    if (preferences.mame.mameExeSize == 0) {
+        RecoverFromBadOptions();
+        startOver = true;
+        return true;
+    }
+    if (!CheckSupportChanges()) {
+        return false;
+    }
+    preferences.mame.mameExeSize = m_currentMameSize;
+    m_controls.mnuViewShots->setChecked(preferences.view.snapshots);
+    m_controls.mnuViewArcadeFavorites->setChecked(preferences.view.favoriteArcade);
+    m_controls.mnuViewOtherFavorites->setChecked(preferences.view.favoriteOther);
+    return true;
+}
+
+void frmMain::ResetHiddenSortKeys() {
+    // A column hidden by a marker cannot be clicked, so it cannot stay the sort column.
+    for (ListState* state :
+         {&m_context.preferences.view.all, &m_context.preferences.view.available,
+          &m_context.preferences.view.unavailable, &m_context.preferences.view.other}) {
+        if (m_hiddenColumns.count(state->sortKey) != 0) {
+            state->sortKey = 0;
+            state->sortOrder = 0;
+        }
+    }
+}
+
+void frmMain::RecoverFromBadOptions() {
+    DiscardOptions(m_context.data.OptionsIni(), m_context.preferences);
+    for (MachineListView* list :
+         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable, m_controls.lvOther}) {
+        list->Model().Clear();
+    }
+    m_prompter.Inform(QString::fromLatin1(kOptionsProblemMessage));
+}
+
+bool frmMain::FirstRunBranch() {
+    // The defaults the interface needs before any file exists.
+    m_context.preferences = Preferences{};
+    if (!ShowOptionsAtFirstRun()) {
+        return false;
+    }
+    for (const char* name : {"machine.xml", "software.xml"}) {
+        std::error_code ignored;
+        std::filesystem::remove(m_context.data.Output() / name, ignored);
+    }
+    if (m_context.flags.closeRequested) {
+        return false;
+    }
+    const SearchPathPreferences& paths = m_context.preferences.searchPaths;
+    m_currentMameSize = static_cast<long long>(
+        FileSize(std::filesystem::path(paths.mame) / m_context.preferences.mame.executable)
+            .value_or(0));
+    m_context.preferences.mame.mameExeSize = m_currentMameSize;
+    return true;
+}
+
+bool frmMain::ShowOptionsAtFirstRun() {
+    ShowPleaseWait(QStringLiteral("Please wait while Coinlight loads the Options form."), {});
+    Options();
+    return !m_context.flags.fatalErrorFlag;
+}
+
+bool frmMain::CheckSupportChanges() {
+    Preferences& preferences = m_context.preferences;
+    const SearchPathPreferences& paths = preferences.searchPaths;
+    m_currentMameSize = static_cast<long long>(
+        FileSize(std::filesystem::path(paths.mame) / preferences.mame.executable).value_or(0));
+    if (m_currentMameSize != preferences.mame.mameExeSize && preferences.mame.mameExeSize != 0) {
+        return RebuildCatalogue(true);
+    }
+    const auto lists = FileSize(m_context.data.Support() / "lists.txt");
+    if (lists) {
+        if (static_cast<long long>(*lists) != preferences.miscellaneous.listsTxtSize ||
+            preferences.miscellaneous.listsTxtSize == 0) {
+            Splash().show();
+            Splash().SetMessage(QStringLiteral("Different lists.txt detected!"));
+            const bool rebuilt = RebuildCatalogue(false);
+            preferences.miscellaneous.listsTxtSize = static_cast<long long>(*lists);
+            return rebuilt;
+        }
+    } else {
+        preferences.miscellaneous.listsTxtSize = 0;
+    }
+    const auto catver = FileSize(m_context.data.Support() / "catver.ini");
+    if (!catver) {
+        preferences.miscellaneous.catverIniSize = 0;
+        return true;
+    }
+    if (static_cast<long long>(*catver) != preferences.miscellaneous.catverIniSize) {
+        Splash().show();
+        m_openOptionsOnActivate = true;
+        if (!MergeCategories()) {
+            return false;
+        }
+        preferences.miscellaneous.catverIniSize = static_cast<long long>(*catver);
+    }
+    return true;
+}
+
+void frmMain::WriteSupportSizes() {
+    Preferences& preferences = m_context.preferences;
+    if (const auto lists = FileSize(m_context.data.Support() / "lists.txt")) {
+        preferences.miscellaneous.listsTxtSize = static_cast<long long>(*lists);
+    }
+    if (const auto catver = FileSize(m_context.data.Support() / "catver.ini")) {
+        preferences.miscellaneous.catverIniSize = static_cast<long long>(*catver);
+    }
+    preferences.miscellaneous.coinlightVersion = kCoinlightVersion;
+    ProfileEditor editor(m_context.data.OptionsIni());
+    editor.Set(kSectionMame, kKeyMameExeSize, std::to_string(preferences.mame.mameExeSize));
+    editor.Set(kSectionMiscellaneous, kKeyListsTxtSize,
+               std::to_string(preferences.miscellaneous.listsTxtSize));
+    editor.Set(kSectionMiscellaneous, kKeyCatverIniSize,
+               std::to_string(preferences.miscellaneous.catverIniSize));
+    editor.Set(kSectionMiscellaneous, kKeyCoinlightVersion, kCoinlightVersion);
+    editor.Set(kSectionMiscellaneous, kKeyAutoRun, BoolText(preferences.miscellaneous.autoRun));
+    std::string error;
+    if (!editor.Commit(true, &error)) {
+        m_prompter.Inform(QString::fromStdString(error), PromptIcon::Warning);
+    }
+}
+
+bool frmMain::LoadAllLists() {
+    const Preferences& preferences = m_context.preferences;
+    m_arcadeRomFolders = SplitPathList(preferences.searchPaths.arcadeRoms);
+    m_otherRomFolders = preferences.searchPaths.otherRoms.empty()
+                            ? std::vector<std::string>{}
+                            : SplitPathList(preferences.searchPaths.otherRoms);
+    const bool hasOther = !preferences.searchPaths.otherRoms.empty();
+    m_controls.mnuViewOtherMachines->setEnabled(hasOther);
+    m_controls.cmdOtherSettings->setEnabled(hasOther);
+    m_controls.lblBLinks[LinkOtherSettings]->setEnabled(hasOther);
+    WriteSupportSizes();
+    Splash().show();
+    Splash().repaint();
+    if (!RegenerateIfMissing()) {
+        return false;
+    }
+    if (!LoadListsArcade()) {
+        return false;
+    }
+    return !hasOther || LoadListsOther();
+}
+
+bool frmMain::RegenerateIfMissing() {
+    for (const char* name : kCatalogueFiles) {
+        if (!FileExists(m_context.data.Output() / name)) {
+            return RebuildCatalogue(false) && PurgeAllFavorites();
+        }
+    }
+    return true;
+}
+
+void frmMain::RestoreSelections() {
+    for (MachineListView* list :
+         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable, m_controls.lvOther}) {
+        MachineListModel& model = list->Model();
+        const ListState& saved = SavedStateOf(*list);
+        model.Sort(0, false); // the lists become sorted once full, as designed
+        if (saved.sortKey != 0 || saved.sortOrder != 0) {
+            model.Sort(saved.sortKey, saved.sortOrder == 1);
+        }
+        if (model.rowCount() == 0) {
+            continue;
+        }
+        int row = 0;
+        if (saved.key.size() > 2 && saved.key.starts_with("k.")) {
+            // A machine that a filter now hides is simply not found: the first row serves.
+            row = std::max(0, model.RowOfShortName(std::string_view(saved.key).substr(2)));
+        }
+        list->SelectRow(row);
+    }
+}
+
+void frmMain::ShowSavedView() {
+    const std::string& view = m_context.preferences.view.listView;
+    if (view == "Available Arcade Machines") {
+        ViewAvailableArcade();
+    } else if (view == "Unavailable Arcade Machines") {
+        ViewUnavailableArcade();
+    } else if (view == "Other Machines") {
+        if (m_controls.mnuViewOtherMachines->isEnabled()) {
+            ViewOther();
+        } else {
+            ViewAllArcade();
+        }
+    } else if (view.empty() || view == "All Arcade Machines") {
+        ViewAllArcade();
+    }
+}
+
+void frmMain::FixAllHidden() {
+    if (m_controls.lvAll->Model().rowCount() != 0) {
+        return;
+    }
+    m_prompter.Inform(QStringLiteral("Looks like you may have the filters set to hide everything.  "
+                                     "Coinlight will open Options so you can correct this."));
+    m_controls.lblRefresh[2]->clear();
+    m_controls.lblRefresh[4]->clear();
+    if (!m_splash.isNull()) {
+        m_splash->SetOtherCount({});
+        m_splash->SetArcadeCount({});
+    }
+    Options();
+}
+
+void frmMain::FatalLoadError(const QString& description, int statement) {
+    m_prompter.Message(QStringLiteral("Coinlight"),
+                       QStringLiteral("Error In Form_Load: ") + description +
+                           QStringLiteral("\nLine Number: ") + QString::number(statement),
+                       PromptIcon::Critical);
+    m_context.flags.closeRequested = true;
+}
+
+} // namespace coinlight
