@@ -141,6 +141,7 @@ OptionsReadResult ReadFilterList(const std::filesystem::path& file, const char* 
 }
 
 OptionsReadResult ReadOptionsIni(const std::filesystem::path& file, Preferences& preferences) {
+    preferences = Preferences{}; // what the file does not say is the default, not a leftover
     OptionsReadResult result = CheckVersion(file, preferences);
     if (result.status != OptionsReadStatus::Ok) {
         return result;

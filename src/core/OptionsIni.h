@@ -25,7 +25,7 @@ struct OptionsReadResult {
 };
 
 /// Reads the whole file into `preferences`: the version and its check, the two filter
-/// lists, then the other sections. Absent keys keep their defaults.
+/// lists, then the other sections. Absent keys take their defaults.
 OptionsReadResult ReadOptionsIni(const std::filesystem::path& file, Preferences& preferences);
 
 /// The filter list of a section: the `Total` lines that follow its header line in the file.

@@ -6,20 +6,9 @@ namespace coinlight {
 
 namespace {
 
-/// "&" would turn the next letter into a mnemonic in a label.
-std::string WithAmpersandsDoubled(std::string_view text) {
-    std::string doubled;
-    for (char c : text) {
-        doubled.push_back(c);
-        if (c == '&') {
-            doubled.push_back('&');
-        }
-    }
-    return doubled;
-}
-
 void FillCommonPanel(const MachineRow& row, SelectionDetails& details) {
-    details.panel[1] = WithAmpersandsDoubled(row.Field(ColMachine));
+    // The strip shows plain text: an "&" in a name prints as itself.
+    details.panel[1] = std::string(row.Field(ColMachine));
     details.panel[2] = std::string(row.Field(ColName));
     const std::string_view refresh = row.Field(ColRefreshRates);
     details.panel[3] = std::string(refresh.substr(0, refresh.find(',')));

@@ -24,7 +24,7 @@ TEST(SelectionDetails, TheStripShowsTheRowsColumnsAsDesigned) {
                                             {ColImages, "Vector"}}));
     const auto details =
         DetailsOf(row, DetailsSource::Available, false, {}, folder.Path(), "Old Label");
-    EXPECT_EQ(details.panel[1], "Tom && Jerry");
+    EXPECT_EQ(details.panel[1], "Tom & Jerry");
     EXPECT_EQ(details.panel[2], "ddragon");
     EXPECT_EQ(details.panel[3], "60.000000");
     EXPECT_EQ(details.panel[4], "V");

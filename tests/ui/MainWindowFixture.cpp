@@ -1,0 +1,48 @@
+#include "MainWindowFixture.h"
+
+namespace coinlight::test {
+
+MainWindowFixture::MainWindowFixture() {
+    m_context.appFolder = m_folder / "app";
+    m_context.data.root = m_folder / "data";
+    std::filesystem::create_directories(m_context.appFolder);
+    std::filesystem::create_directories(Roms());
+    m_mame = InstallFakeMame(m_folder / "mame", "fake-mame");
+    const auto catalogue = FixturesFolder() / "catalogue-small" / "output";
+    std::filesystem::create_directories(Output());
+    for (const auto& entry : std::filesystem::directory_iterator(catalogue)) {
+        std::filesystem::copy_file(entry.path(), Output() / entry.path().filename());
+    }
+    // The support files of the test's own: the shipped ones must not start a rebuild.
+    WriteFile(m_context.data.Support() / "lists.txt", "Arcade\r\n|pacman|\r\nOther\r\n|a500|\r\n");
+}
+
+void MainWindowFixture::WriteOptions(const std::string& extraSections) {
+    const auto mameSize = FileSize(m_mame.folder / m_mame.executable).value_or(0);
+    const auto listsSize = FileSize(m_context.data.Support() / "lists.txt").value_or(0);
+    WriteFile(m_context.data.OptionsIni(),
+              "[Miscellaneous]\r\nCoinlight Version=26.02.0\r\nLists.txt Size=" +
+                  std::to_string(listsSize) + "\r\n\r\n[MAME]\r\nExecutable=" + m_mame.executable +
+                  "\r\nMame.exe Size=" + std::to_string(mameSize) +
+                  "\r\n\r\n[Core Search Path Options]\r\nMAME=" + m_mame.folder.string() +
+                  "\r\nArcade ROMs=" + Roms().string() + "\r\nOther ROMs=" + Roms().string() +
+                  "\r\n\r\n" + extraSections);
+}
+
+bool MainWindowFixture::Load() {
+    if (!FileExists(m_context.data.OptionsIni())) {
+        WriteOptions();
+    }
+    m_form = std::make_unique<frmMain>(m_context, m_prompter);
+    return m_form->FormLoad();
+}
+
+std::vector<std::string> MainWindowFixture::Names(const MachineListView& list) const {
+    std::vector<std::string> names;
+    for (int row = 0; row < list.Model().rowCount(); ++row) {
+        names.emplace_back(list.Model().Row(row)->ShortName());
+    }
+    return names;
+}
+
+} // namespace coinlight::test

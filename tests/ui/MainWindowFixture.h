@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include <QLabel>
+
+#include "core/FileTests.h"
+#include "support/ScriptedPrompter.h"
+#include "support/TestFiles.h"
+#include "ui/MachineListView.h"
+#include "ui/frmMain.h"
+
+namespace coinlight::test {
+
+/// A data folder with a small catalogue, a fake MAME and a ROM folder, ready for the main
+/// window's load. Tests change what they need before calling Load().
+class MainWindowFixture : public ::testing::Test {
+protected:
+    MainWindowFixture();
+
+    /// Writes options.ini from the keys given plus the ones every start needs.
+    void WriteOptions(const std::string& extraSections = {});
+    void AddRom(const std::string& name) { WriteFile(Roms() / (name + ".zip"), "zip"); }
+    std::filesystem::path Roms() const { return m_folder / "roms"; }
+    std::filesystem::path Output() const { return m_context.data.Output(); }
+
+    bool Load();
+    frmMain& Form() { return *m_form; }
+    const MainControls& Controls() { return m_form->Controls(); }
+    QString Panel(int index) {
+        return Controls().lblPanel[static_cast<std::size_t>(index)]->text();
+    }
+    std::vector<std::string> Names(const MachineListView& list) const;
+
+    TempFolder m_folder;
+    AppContext m_context;
+    ScriptedPrompter m_prompter;
+    FakeMame m_mame;
+    std::unique_ptr<frmMain> m_form;
+};
+
+} // namespace coinlight::test

@@ -1,0 +1,251 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QPushButton>
+
+#include "MainWindowFixture.h"
+#include "core/ProfileFile.h"
+
+namespace coinlight::test {
+namespace {
+
+class MainWindow : public MainWindowFixture {
+protected:
+    MainWindow() {
+        AddRom("pacman");
+        AddRom("galaga");
+    }
+};
+
+TEST_F(MainWindow, LoadsEveryListSortedWithItsFirstRowSelected) {
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    EXPECT_EQ(c.lvAll->Model().rowCount(), 11);
+    EXPECT_EQ(Names(*c.lvAvailable), (std::vector<std::string>{"galaga", "pacman", "pong"}));
+    EXPECT_EQ(c.lvUnavailable->Model().rowCount(), 8);
+    EXPECT_EQ(c.lvOther->Model().rowCount(), 4);
+    EXPECT_EQ(Names(*c.lvAll).front(), "asteroid") << "sorted by machine name";
+    EXPECT_EQ(c.lvAll->SelectedRow(), 0);
+    EXPECT_EQ(c.fraList->title(), "All Arcade Machines");
+    EXPECT_EQ(Panel(0), "Machines: 11");
+    EXPECT_TRUE(m_prompter.Prompts().empty()) << m_prompter.Texts().join("|").toStdString();
+}
+
+TEST_F(MainWindow, EachViewSetsItsCaptionCountTickAndCommands) {
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    Form().ViewAvailableArcade();
+    EXPECT_EQ(c.fraList->title(), "Available Arcade Machines");
+    EXPECT_EQ(Panel(0), "Machines: 3");
+    EXPECT_TRUE(c.mnuViewAvailable->isChecked());
+    EXPECT_FALSE(c.mnuViewAll->isChecked());
+    EXPECT_TRUE(c.cmdStart->isEnabled());
+    EXPECT_FALSE(c.chkAutoRun->isHidden());
+
+    c.chkAutoRun->setChecked(true);
+    Form().ViewUnavailableArcade();
+    EXPECT_EQ(c.fraList->title(), "Unavailable Arcade Machines");
+    EXPECT_EQ(Panel(0), "Machines: 8");
+    EXPECT_FALSE(c.cmdStart->isEnabled());
+    EXPECT_TRUE(c.cmdAudit->isEnabled());
+    EXPECT_TRUE(c.chkAutoRun->isHidden());
+    EXPECT_FALSE(c.chkAutoRun->isChecked());
+    EXPECT_EQ(Panel(6), "Unavailable");
+
+    Form().ViewOther();
+    EXPECT_TRUE(Form().InOtherView());
+    EXPECT_EQ(c.fraList->title(), "Other Machines");
+    EXPECT_EQ(Panel(0), "Machines: 4");
+    EXPECT_TRUE(c.lblToggle->isHidden());
+    EXPECT_FALSE(c.cmdArcadeSettings->isEnabled());
+    EXPECT_TRUE(c.cmdOtherSettings->isEnabled());
+    EXPECT_TRUE(c.mnuViewOtherMachines->isChecked());
+    EXPECT_EQ(c.lvOther->toolTip(), c.lvOther->toolTip());
+    EXPECT_EQ(c.lblPanel[1]->toolTip(), "Software");
+
+    Form().ViewAllArcade();
+    EXPECT_FALSE(Form().InOtherView());
+    EXPECT_FALSE(c.lblToggle->isHidden());
+    EXPECT_TRUE(c.cmdArcadeSettings->isEnabled());
+    EXPECT_EQ(c.lblPanel[1]->toolTip(), "Machine");
+}
+
+TEST_F(MainWindow, TheToggleCyclesTheArcadeListsAndFiltersMarkTheCaption) {
+    WriteOptions("[View]\r\nFilters=True\r\n");
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    EXPECT_EQ(c.fraList->title(), "All Arcade Machines *");
+    emit c.lblToggle->linkActivated(QStringLiteral("#"));
+    EXPECT_EQ(c.fraList->title(), "Available Arcade Machines *");
+    emit c.lblToggle->linkActivated(QStringLiteral("#"));
+    EXPECT_EQ(c.fraList->title(), "Unavailable Arcade Machines *");
+    emit c.lblToggle->linkActivated(QStringLiteral("#"));
+    EXPECT_EQ(c.fraList->title(), "All Arcade Machines *");
+}
+
+TEST_F(MainWindow, TheDetailsStripFollowsTheSelectedRowOfEachList) {
+    WriteFile(m_context.data.Settings() / "galaga.cfg", "[x]\r\n");
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("pong"));
+    EXPECT_EQ(Panel(1), "Pong (Rev E) & Friends");
+    EXPECT_EQ(Panel(2), "pong");
+    EXPECT_EQ(Panel(3), "59.922743");
+    EXPECT_EQ(Panel(4), "H");
+    EXPECT_EQ(Panel(5), "P");
+    EXPECT_EQ(Panel(6), "Raster Settings");
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("mspacman"));
+    EXPECT_EQ(Panel(4), "V");
+    EXPECT_EQ(Panel(5), "C");
+    EXPECT_EQ(Panel(6), "Unavailable");
+    EXPECT_FALSE(c.cmdStart->isEnabled());
+    EXPECT_TRUE(c.cmdAudit->isEnabled());
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("galaga"));
+    EXPECT_EQ(Panel(6), "Custom Settings");
+    EXPECT_TRUE(c.cmdStart->isEnabled());
+
+    Form().ViewAvailableArcade();
+    c.lvAvailable->SelectRow(c.lvAvailable->Model().RowOfShortName("pacman"));
+    EXPECT_EQ(Panel(2), "pacman");
+    EXPECT_EQ(Panel(6), "Raster Settings");
+
+    Form().ViewOther();
+    c.lvOther->SelectRow(c.lvOther->Model().RowOfShortName("pet2001"));
+    EXPECT_EQ(Panel(6), "Other Settings");
+    c.lvOther->SelectRow(c.lvOther->Model().RowOfShortName("a500"));
+    EXPECT_EQ(Panel(6), "Unavailable");
+    const auto red = c.lvOther->Model().data(c.lvOther->Model().index(c.lvOther->SelectedRow(), 0),
+                                             Qt::ForegroundRole);
+    EXPECT_EQ(red.value<QColor>(), QColor(Qt::red));
+}
+
+TEST_F(MainWindow, EachFilterHidesItsMachinesAtLoad) {
+    const std::vector<std::pair<std::string, std::string>> filters = {
+        {"Hide Arcade Clones=True", "mspacman"},
+        {"Hide Preliminary=True", "protoa"},
+        {"Hide Vs=True", "vsmario"},
+        {"Hide Bootleg=True", "dkongb"},
+        {"Hide CHD=True", "kinst"},
+        {"Hide Imperfect=True", "kinst"},
+    };
+    for (const auto& [line, hidden] : filters) {
+        WriteOptions("[Preferences Other]\r\n" + line + "\r\n");
+        ASSERT_TRUE(Load()) << line;
+        const auto names = Names(*Controls().lvAll);
+        EXPECT_EQ(names.size(), 10u) << line;
+        EXPECT_EQ(std::count(names.begin(), names.end(), hidden), 0) << line;
+        m_form.reset();
+    }
+    WriteOptions("[Preferences BIOS]\r\nNeo-Geo MV-6F: neogeo=True\r\nTotal=1\r\n\r\n"
+                 "[Preferences Other]\r\nHide Year=True\r\nYear=1985\r\n");
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Names(*Controls().lvAll),
+              (std::vector<std::string>{"asteroid", "galaga", "mspacman", "pacman", "pong"}))
+        << "neogeo is too late, dkongb has no four-digit year, mslug goes with its BIOS";
+    EXPECT_EQ(Controls().lvOther->Model().rowCount(), 4) << "the year filter is arcade-only";
+}
+
+TEST_F(MainWindow, SavedSelectionAndSortComeBackUnlessTheyCannot) {
+    WriteFile(m_context.data.Settings() / "!hide2.txt", "");
+    WriteOptions("[Preferences Other]\r\nHide Arcade Clones=True\r\n\r\n[View]\r\n"
+                 "All Key=k.mspacman\r\nAll Sort Key=2\r\nAll Sort Order=1\r\n"
+                 "Available Key=k.pong\r\nAvailable Sort Key=1\r\nAvailable Sort Order=1\r\n");
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    EXPECT_EQ(c.lvAll->SelectedRow(), 0) << "a machine the filters hide selects the first row";
+    EXPECT_EQ(c.lvAll->Model().SortKey(), 0) << "a hidden column cannot stay the sort column";
+    EXPECT_EQ(c.lvAll->Model().SortOrder(), 0);
+    EXPECT_EQ(m_context.preferences.view.all.sortKey, 0);
+    EXPECT_TRUE(c.lvAll->IsColumnHidden(2));
+    EXPECT_EQ(Names(*c.lvAvailable), (std::vector<std::string>{"galaga", "pacman", "pong"}))
+        << "1981, 1980, 1972: years descending, ties by name";
+    EXPECT_EQ(c.lvAvailable->SelectedMachine()->ShortName(), "pong");
+}
+
+TEST_F(MainWindow, HeaderClicksSortAndSmallListsIgnoreThem) {
+    WriteOptions("[Preferences Other]\r\nHide CHD=True\r\n");
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    Form().SortColumn(*c.lvAll, ColYear);
+    EXPECT_EQ(Names(*c.lvAll).front(), "pong");
+    EXPECT_EQ(m_context.preferences.view.all.sortKey, ColYear);
+    EXPECT_EQ(m_context.preferences.view.all.sortOrder, 0);
+    Form().SortColumn(*c.lvAll, ColYear);
+    EXPECT_EQ(m_context.preferences.view.all.sortOrder, 1) << "the same column again reverses";
+    EXPECT_EQ(Names(*c.lvAll).back(), "pong");
+    Form().SortColumn(*c.lvAll, ColName);
+    EXPECT_EQ(m_context.preferences.view.all.sortOrder, 0) << "another column starts ascending";
+}
+
+TEST_F(MainWindow, AListOfOneRowIgnoresHeaderClicks) {
+    for (const char* name :
+         {"mspacman", "asteroid", "vsmario", "dkongb", "neogeo", "mslug", "kinst"}) {
+        AddRom(name);
+    }
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    Form().ViewUnavailableArcade();
+    ASSERT_EQ(c.lvUnavailable->Model().rowCount(), 1);
+    Form().SortColumn(*c.lvUnavailable, ColYear);
+    EXPECT_EQ(m_context.preferences.view.unavailable.sortKey, 0);
+    EXPECT_EQ(c.lvUnavailable->Model().SortKey(), 0);
+}
+
+TEST_F(MainWindow, ClosingSavesWhatTheUserLeft) {
+    ASSERT_TRUE(Load());
+    const MainControls& c = Controls();
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("galaga"));
+    Form().SortColumn(*c.lvAll, ColYear);
+    Form().ViewAvailableArcade();
+    Form().close();
+    const auto options = m_context.data.OptionsIni();
+    EXPECT_EQ(ReadProfileValue(options, "View", "All Key", ""), "k.galaga");
+    EXPECT_EQ(ReadProfileValue(options, "View", "All Sort Key", ""), "1");
+    EXPECT_EQ(ReadProfileValue(options, "View", "List View", ""), "Available Arcade Machines");
+    EXPECT_EQ(ReadProfileValue(options, "View", "Unavailable Key", ""), "k.asteroid");
+}
+
+TEST_F(MainWindow, PlayersComeFromTheSupportFile) {
+    WriteFile(m_context.data.Support() / "nplayers.ini", "[NPlayers]\r\npacman=2P alt\r\n");
+    ASSERT_TRUE(Load());
+    const MachineListModel& all = Controls().lvAll->Model();
+    EXPECT_EQ(all.headerData(ColPlayers, Qt::Horizontal, Qt::DisplayRole).toString(), "Players");
+    EXPECT_EQ(all.Row(all.RowOfShortName("pacman"))->Field(ColPlayers), "2P alt");
+    EXPECT_EQ(all.Row(all.RowOfShortName("galaga"))->Field(ColPlayers), "Unknown");
+    EXPECT_EQ(Controls().lvOther->Model().columnCount(), kRecordFieldCount + 1);
+}
+
+TEST_F(MainWindow, ABrokenRecordEndsTheStartWithTheVersionAdvice) {
+    WriteFile(Output() / "arcadeinfo.txt", "\"Pac-Man\",\"1980\"\r\n");
+    EXPECT_FALSE(Load());
+    EXPECT_TRUE(m_context.flags.fatalErrorFlag);
+    ASSERT_EQ(m_prompter.Prompts().size(), 1u);
+    EXPECT_EQ(m_prompter.Prompts()[0].icon, PromptIcon::Critical);
+    EXPECT_TRUE(m_prompter.Texts()[0].startsWith("Error In LoadListsArcade: "));
+    EXPECT_TRUE(m_prompter.Texts()[0].endsWith(
+        "This might mean you are not using the correct version of MAME."));
+}
+
+TEST_F(MainWindow, FavouritesFilesMissingDifferByFamily) {
+    WriteOptions("[View]\r\nFavorite Arcade=True\r\n");
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Controls().lvAll->Model().rowCount(), 11) << "the full arcade list instead";
+    EXPECT_FALSE(m_context.preferences.view.favoriteArcade);
+    EXPECT_FALSE(Controls().mnuViewArcadeFavorites->isChecked());
+    m_form.reset();
+
+    WriteOptions("[View]\r\nFavorite Other=True\r\n");
+    EXPECT_FALSE(Load());
+    ASSERT_FALSE(m_prompter.Texts().isEmpty());
+    EXPECT_TRUE(m_prompter.Texts().back().startsWith("Error In LoadListsOther: "));
+}
+
+TEST_F(MainWindow, AMissingRomFolderLeavesEveryMachineThatNeedsFilesUnavailable) {
+    WriteOptions();
+    std::filesystem::remove_all(Roms());
+    ASSERT_TRUE(Load());
+    EXPECT_EQ(Names(*Controls().lvAvailable), (std::vector<std::string>{"pong"}));
+    EXPECT_EQ(Controls().lvUnavailable->Model().rowCount(), 10);
+}
+
+} // namespace
+} // namespace coinlight::test
