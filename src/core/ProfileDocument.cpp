@@ -198,7 +198,12 @@ int ProfileDocument::FindKeyLine(int section, std::string_view key) const {
 
 std::optional<std::string_view> ProfileDocument::Find(std::string_view section,
                                                       std::string_view key) const {
-    const int line = FindKeyLine(FindSection(section), key);
+    return FindInSection(FindSection(section), key);
+}
+
+std::optional<std::string_view> ProfileDocument::FindInSection(int sectionOrdinal,
+                                                               std::string_view key) const {
+    const int line = FindKeyLine(sectionOrdinal, key);
     if (line < 0 || m_lines[static_cast<std::size_t>(line)].kind != Kind::Key) {
         return std::nullopt;
     }

@@ -26,6 +26,10 @@ public:
 
     bool HasSection(std::string_view section) const;
 
+    /// For many lookups in one section: find the section once, then its keys.
+    int SectionOrdinal(std::string_view section) const { return FindSection(section); }
+    std::optional<std::string_view> FindInSection(int sectionOrdinal, std::string_view key) const;
+
     /// The key/value pairs of a section in file order (lines without '=' are left out).
     std::vector<std::pair<std::string_view, std::string_view>>
     Entries(std::string_view section) const;

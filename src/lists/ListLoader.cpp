@@ -1,7 +1,7 @@
 #include "ListLoader.h"
 
 #include "SelectionDetails.h"
-#include "core/LineReader.h"
+#include "core/BigMemory.h"
 
 namespace coinlight {
 
@@ -9,28 +9,6 @@ namespace {
 
 constexpr const char* kVersionAdvice =
     "This might mean you are not using the correct version of MAME.";
-
-// Until the catalogue's own record reader is in: a record is its fields in double quotes,
-// separated by commas, with no quote inside a field.
-bool SplitRecord(std::string_view line, std::array<std::string_view, kRecordFieldCount>& fields) {
-    if (line.size() < 2 || line.front() != '"' || line.back() != '"') {
-        return false;
-    }
-    line = line.substr(1, line.size() - 2);
-    std::size_t field = 0;
-    for (;;) {
-        const std::size_t end = line.find("\",\"");
-        if (field == kRecordFieldCount) {
-            return false;
-        }
-        fields[field++] = line.substr(0, end);
-        if (end == std::string_view::npos) {
-            break;
-        }
-        line.remove_prefix(end + 3);
-    }
-    return field == kRecordFieldCount;
-}
 
 std::string FailureMessage(const char* routine, const std::string& description,
                            std::string_view shortName, int lineNumber) {
@@ -44,13 +22,24 @@ bool NeedsNoFile(const std::array<std::string_view, kRecordFieldCount>& fields) 
            fields[ColChdRequired] == "No";
 }
 
-std::string PlayersOf(const ListLoadOptions& options, std::string_view shortName) {
-    if (!options.nplayers) {
-        return {};
+/// The Players text of a machine: from the list when there is one, else nothing at all.
+class PlayersLookup {
+public:
+    explicit PlayersLookup(const std::shared_ptr<const ProfileDocument>& document)
+        : m_document(document.get()),
+          m_section(document ? document->SectionOrdinal("NPlayers") : -1) {}
+
+    std::string_view Of(std::string_view shortName) const {
+        if (m_document == nullptr) {
+            return {};
+        }
+        return m_document->FindInSection(m_section, shortName).value_or("Unknown");
     }
-    const auto value = options.nplayers->Find("NPlayers", shortName);
-    return value ? std::string(*value) : "Unknown";
-}
+
+private:
+    const ProfileDocument* m_document;
+    int m_section;
+};
 
 /// Where a machine stands: available or not, by the rules of its family.
 using AvailabilityRule = bool (*)(const std::array<std::string_view, kRecordFieldCount>& fields,
@@ -84,16 +73,30 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
                     const ListLoadOptions& options, const ListLoadProgress& progress,
                     AvailabilityRule availability) {
     LoadedList list;
-    LineReader reader(file);
-    if (!reader.IsOpen()) {
+    list.machines = std::make_shared<MachineRows>();
+    // The whole file stays in memory and the rows point into it: one read, no copy a row.
+    auto bytes = ReadFileBig(file);
+    if (!bytes) {
         list.error = FailureMessage(routine, "File not found: " + file.string(), "", 4);
         return list;
     }
+    list.machines->text = std::move(*bytes);
+    const std::string_view text = list.machines->text.View();
+    list.machines->players = options.nplayers;
+    auto& rows = list.machines->rows;
+    rows.reserve(text.size() / 160);
     MachineFilter filter(options.filters);
+    const PlayersLookup players(options.nplayers);
+    RecordSpans spans;
     std::array<std::string_view, kRecordFieldCount> fields;
-    std::string_view line;
     int lineNumber = 0;
-    while (reader.Next(line)) {
+    for (std::string_view rest = text; !rest.empty();) {
+        const std::size_t newline = rest.find('\n');
+        std::string_view line = rest.substr(0, newline);
+        rest.remove_prefix(newline == std::string_view::npos ? rest.size() : newline + 1);
+        if (!line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
         ++lineNumber;
         if (progress.yield) {
             progress.yield();
@@ -101,10 +104,13 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
         if (line.empty()) {
             continue;
         }
-        if (!SplitRecord(line, fields)) {
-            const std::string_view start = line.substr(0, 60);
-            list.error = FailureMessage(routine, "Input past end of file", start, lineNumber);
+        if (!ParseRecordLine(line, spans)) {
+            list.error =
+                FailureMessage(routine, "Input past end of file", line.substr(0, 60), lineNumber);
             return list;
+        }
+        for (int column = 0; column < kRecordFieldCount; ++column) {
+            fields[static_cast<std::size_t>(column)] = spans.Field(line, column);
         }
         if (filter.Hides(fields)) {
             continue;
@@ -112,20 +118,16 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
         const std::string base =
             RomBaseName(fields[ColName], fields[ColSetType], options.mergedRomSets);
         const bool available = availability(fields, base, options);
-        const auto row = static_cast<std::uint32_t>(list.rows.size());
-        list.rows.emplace_back(fields, PlayersOf(options, fields[ColName]), available);
+        const auto row = static_cast<std::uint32_t>(rows.size());
+        rows.emplace_back(line, spans, players.Of(fields[ColName]), available);
         (available ? list.available : list.unavailable).push_back(row);
-        const int count = static_cast<int>(list.rows.size());
+        const int count = static_cast<int>(rows.size());
         if (progress.count && (count == 1 || count % 25 == 0)) {
             progress.count(count);
         }
     }
-    if (reader.Failed()) {
-        list.error = FailureMessage(routine, "Cannot read " + file.string(), "", lineNumber);
-        return list;
-    }
     if (progress.count) {
-        progress.count(static_cast<int>(list.rows.size()));
+        progress.count(static_cast<int>(rows.size()));
     }
     return list;
 }
@@ -144,8 +146,8 @@ LoadedList LoadOtherList(const std::filesystem::path& file, const ListLoadOption
     return LoadList("LoadListsOther", file, otherOptions, progress, OtherAvailable);
 }
 
-std::vector<std::uint32_t> AllRows(const LoadedList& list) {
-    std::vector<std::uint32_t> rows(list.rows.size());
+std::vector<std::uint32_t> AllRows(const MachineRows& machines) {
+    std::vector<std::uint32_t> rows(machines.rows.size());
     for (std::uint32_t i = 0; i < rows.size(); ++i) {
         rows[i] = i;
     }

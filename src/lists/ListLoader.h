@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "ListFilters.h"
-#include "MachineRow.h"
+#include "MachineRows.h"
 #include "RomFolderIndex.h"
 #include "core/ProfileDocument.h"
 
@@ -31,7 +31,7 @@ struct ListLoadProgress {
 };
 
 struct LoadedList {
-    std::vector<MachineRow> rows;           // every machine no filter hides, in file order
+    std::shared_ptr<MachineRows> machines;  // every machine no filter hides, in file order
     std::vector<std::uint32_t> available;   // arcade: the rows whose files were found
     std::vector<std::uint32_t> unavailable; // arcade: the others
     std::string error;                      // set: what to tell the user; the load failed
@@ -48,6 +48,6 @@ LoadedList LoadOtherList(const std::filesystem::path& file, const ListLoadOption
                          const ListLoadProgress& progress);
 
 /// All row numbers of a list, in order.
-std::vector<std::uint32_t> AllRows(const LoadedList& list);
+std::vector<std::uint32_t> AllRows(const MachineRows& rows);
 
 } // namespace coinlight

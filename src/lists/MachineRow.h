@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -9,32 +10,52 @@
 
 namespace coinlight {
 
-/// One row of a machine list: the catalogue record's fields, the Players text and whether
-/// the machine's files were found. The texts live in one string, so a list of 45,000 rows
-/// costs one allocation a row, and every column stays readable by its number.
+/// Where the fields of one catalogue line lie: the text between each pair of quotes.
+struct RecordSpans {
+    std::array<std::uint32_t, kRecordFieldCount> begin{};
+    std::array<std::uint32_t, kRecordFieldCount> end{};
+
+    std::string_view Field(std::string_view line, int column) const {
+        const auto c = static_cast<std::size_t>(column);
+        return line.substr(begin[c], end[c] - begin[c]);
+    }
+};
+
+/// Finds the 22 quoted fields of a catalogue line; false when the line holds another count.
+bool ParseRecordLine(std::string_view line, RecordSpans& spans);
+
+/// One row of a machine list: the fields of its catalogue line, the Players text and
+/// whether the machine's files were found. A row read from a catalogue file points into the
+/// file's text, which the list keeps (see MachineRows), so 45,000 rows cost no allocation
+/// of their own; a row made from separate texts owns a copy of them.
 class MachineRow {
 public:
     static constexpr int kColumns = kRecordFieldCount + 1; // the record, then Players
 
-    MachineRow() = default;
-    /// `fields` are the record's 22 fields in order.
+    /// `line` and `players` must outlive the row.
+    MachineRow(std::string_view line, const RecordSpans& spans, std::string_view players,
+               bool available);
     MachineRow(const std::array<std::string_view, kRecordFieldCount>& fields,
                std::string_view players, bool available);
 
     std::string_view Field(int column) const {
-        if (column < 0 || column >= kColumns) {
+        if (column == ColPlayers) {
+            return m_players;
+        }
+        if (column < 0 || column >= kRecordFieldCount) {
             return {};
         }
-        return std::string_view(m_text).substr(m_offsets[static_cast<std::size_t>(column)],
-                                               m_offsets[static_cast<std::size_t>(column) + 1] -
-                                                   m_offsets[static_cast<std::size_t>(column)]);
+        const auto c = static_cast<std::size_t>(column);
+        return std::string_view(m_line + m_spans.begin[c], m_spans.end[c] - m_spans.begin[c]);
     }
     std::string_view ShortName() const { return Field(ColName); }
     bool Available() const { return m_available; }
 
 private:
-    std::string m_text;
-    std::array<std::uint32_t, kColumns + 1> m_offsets{};
+    const char* m_line = nullptr;
+    RecordSpans m_spans;
+    std::string_view m_players;
+    std::unique_ptr<std::string> m_owned; // only for rows not read from a file
     bool m_available = true;
 };
 

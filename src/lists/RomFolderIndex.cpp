@@ -31,7 +31,17 @@ RomFolderIndex::RomFolderIndex(std::vector<std::string> folders) {
         if (folder.empty()) {
             continue;
         }
-        m_names.push_back(NamesIn(folder));
+        ArchiveNames archives;
+        for (const auto& name : NamesIn(folder)) {
+            const std::string_view view(name);
+            for (const std::string_view extension :
+                 {std::string_view(".7z"), std::string_view(".zip")}) {
+                if (view.size() > extension.size() && EndsWith(view, extension)) {
+                    archives.emplace(view.substr(0, view.size() - extension.size()));
+                }
+            }
+        }
+        m_archives.push_back(std::move(archives));
         m_folders.push_back(std::move(folder));
     }
 }
@@ -40,17 +50,8 @@ bool RomFolderIndex::RomFileExists(std::string_view baseName) const {
     if (baseName.empty()) {
         return false;
     }
-    std::string name(baseName);
-    const std::size_t stem = name.size();
-    for (const auto& names : m_names) {
-        name.resize(stem);
-        name += ".7z";
-        if (names.count(name) != 0) {
-            return true;
-        }
-        name.resize(stem);
-        name += ".zip";
-        if (names.count(name) != 0) {
+    for (const auto& archives : m_archives) {
+        if (archives.find(baseName) != archives.end()) {
             return true;
         }
     }

@@ -23,8 +23,17 @@ public:
     bool Empty() const { return m_folders.empty(); }
 
 private:
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const noexcept {
+            return std::hash<std::string_view>{}(name);
+        }
+    };
+    /// The archives of a folder by the name before ".7z" or ".zip".
+    using ArchiveNames = std::unordered_set<std::string, NameHash, std::equal_to<>>;
+
     std::vector<std::string> m_folders;
-    std::vector<std::unordered_set<std::string>> m_names;
+    std::vector<ArchiveNames> m_archives;
 };
 
 } // namespace coinlight

@@ -22,8 +22,9 @@ int CompareIgnoringCase(std::string_view a, std::string_view b) {
 
 } // namespace
 
-void SortRows(std::vector<std::uint32_t>& order, const std::vector<MachineRow>& rows, int column,
+void SortRows(std::vector<std::uint32_t>& order, const MachineRows& machines, int column,
               bool descending) {
+    const auto& rows = machines.rows;
     std::stable_sort(order.begin(), order.end(), [&](std::uint32_t left, std::uint32_t right) {
         const int compared =
             CompareIgnoringCase(rows[left].Field(column), rows[right].Field(column));

@@ -15,7 +15,7 @@ void MachineListModel::SetColumns(std::vector<ColumnSpec> columns) {
     endResetModel();
 }
 
-void MachineListModel::Reset(std::shared_ptr<const std::vector<MachineRow>> rows,
+void MachineListModel::Reset(std::shared_ptr<const MachineRows> rows,
                              std::vector<std::uint32_t> order) {
     beginResetModel();
     m_rows = std::move(rows);
@@ -32,14 +32,14 @@ const MachineRow* MachineListModel::Row(int row) const {
     if (!m_rows || row < 0 || row >= static_cast<int>(m_order.size())) {
         return nullptr;
     }
-    return &(*m_rows)[m_order[static_cast<std::size_t>(row)]];
+    return &m_rows->rows[m_order[static_cast<std::size_t>(row)]];
 }
 
 int MachineListModel::RowOfShortName(std::string_view shortName) const {
     if (m_rowOfName.empty() && !m_order.empty()) {
         m_rowOfName.reserve(m_order.size());
         for (std::size_t row = 0; row < m_order.size(); ++row) {
-            m_rowOfName.emplace((*m_rows)[m_order[row]].ShortName(), static_cast<int>(row));
+            m_rowOfName.emplace(m_rows->rows[m_order[row]].ShortName(), static_cast<int>(row));
         }
     }
     const auto found = m_rowOfName.find(shortName);

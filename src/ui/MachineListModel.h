@@ -7,7 +7,7 @@
 #include <QAbstractTableModel>
 
 #include "lists/ListColumns.h"
-#include "lists/MachineRow.h"
+#include "lists/MachineRows.h"
 
 namespace coinlight {
 
@@ -24,8 +24,7 @@ public:
 
     /// Shows `order` (indices into `rows`) in that order; the sort state is kept for the
     /// next Sort call.
-    void Reset(std::shared_ptr<const std::vector<MachineRow>> rows,
-               std::vector<std::uint32_t> order);
+    void Reset(std::shared_ptr<const MachineRows> rows, std::vector<std::uint32_t> order);
     void Clear();
 
     const MachineRow* Row(int row) const;
@@ -46,7 +45,7 @@ public:
 private:
     bool m_marksUnavailable;
     std::vector<ColumnSpec> m_columns;
-    std::shared_ptr<const std::vector<MachineRow>> m_rows;
+    std::shared_ptr<const MachineRows> m_rows;
     std::vector<std::uint32_t> m_order;
     mutable std::unordered_map<std::string_view, int> m_rowOfName; // built on first lookup
     int m_sortKey = 0;

@@ -21,8 +21,6 @@ frmMain::frmMain(AppContext& context, Prompter& prompter, QWidget* parent)
       m_controls(BuildMainControls(*this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Coinlight"));
-    m_arcadeRows = std::make_shared<std::vector<MachineRow>>();
-    m_otherRows = std::make_shared<std::vector<MachineRow>>();
     ConnectControls();
 }
 

@@ -9,7 +9,7 @@
 
 #include "MainControls.h"
 #include "core/AppContext.h"
-#include "lists/MachineRow.h"
+#include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
 
 namespace coinlight {
@@ -130,8 +130,8 @@ private:
     QPointer<frmCover> m_cover;
     QRect m_normalGeometry;
 
-    std::shared_ptr<std::vector<MachineRow>> m_arcadeRows;
-    std::shared_ptr<std::vector<MachineRow>> m_otherRows;
+    std::shared_ptr<const MachineRows> m_arcadeRows;
+    std::shared_ptr<const MachineRows> m_otherRows;
     std::vector<std::string> m_arcadeRomFolders;
     std::vector<std::string> m_otherRomFolders;
     std::set<int> m_hiddenColumns;

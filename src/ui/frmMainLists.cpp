@@ -76,11 +76,10 @@ bool frmMain::LoadListsArcade() {
         m_context.flags.fatalErrorFlag = true;
         return false;
     }
-    auto rows = std::make_shared<std::vector<MachineRow>>(std::move(loaded.rows));
-    m_controls.lvAll->Model().Reset(rows, AllRows(LoadedList{*rows, {}, {}, {}}));
-    m_controls.lvAvailable->Model().Reset(rows, std::move(loaded.available));
-    m_controls.lvUnavailable->Model().Reset(rows, std::move(loaded.unavailable));
-    m_arcadeRows = std::move(rows);
+    m_arcadeRows = loaded.machines;
+    m_controls.lvAll->Model().Reset(m_arcadeRows, AllRows(*m_arcadeRows));
+    m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded.available));
+    m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded.unavailable));
     for (MachineListView* list :
          {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
         list->SelectRow(0);
@@ -122,9 +121,8 @@ bool frmMain::LoadListsOther() {
         m_context.flags.fatalErrorFlag = true;
         return false;
     }
-    auto rows = std::make_shared<std::vector<MachineRow>>(std::move(loaded.rows));
-    m_controls.lvOther->Model().Reset(rows, AllRows(LoadedList{*rows, {}, {}, {}}));
-    m_otherRows = std::move(rows);
+    m_otherRows = loaded.machines;
+    m_controls.lvOther->Model().Reset(m_otherRows, AllRows(*m_otherRows));
     m_controls.lvOther->SelectRow(0);
     return true;
 }

@@ -16,7 +16,7 @@ using test::WriteFile;
 std::vector<std::string> Names(const LoadedList& list, const std::vector<std::uint32_t>& rows) {
     std::vector<std::string> names;
     for (const auto row : rows) {
-        names.emplace_back(list.rows[row].ShortName());
+        names.emplace_back(list.machines->rows[row].ShortName());
     }
     return names;
 }
@@ -88,9 +88,9 @@ TEST_F(Loader, OtherMachinesStayListedAndAreMarkedByTheirFilesAndDisks) {
     WriteFile(m_roms / "cdrom2.zip", "x");
     std::filesystem::create_directories(m_roms / "cdrom2");
     const LoadedList list = LoadOtherList(m_info, Options(), {});
-    ASSERT_EQ(list.rows.size(), 6u);
+    ASSERT_EQ(list.machines->rows.size(), 6u);
     std::vector<bool> available;
-    for (const auto& row : list.rows) {
+    for (const auto& row : list.machines->rows) {
         available.push_back(row.Available());
     }
     EXPECT_EQ(available, (std::vector<bool>{true, true, false, true, false, true}));
@@ -102,9 +102,9 @@ TEST_F(Loader, PlayersComeFromTheListOrReadUnknown) {
     ListLoadOptions options = Options();
     options.nplayers = std::make_shared<const ProfileDocument>("[NPlayers]\r\npacman=2P alt\r\n");
     const LoadedList list = LoadArcadeList(m_info, options, {});
-    EXPECT_EQ(list.rows[0].Field(ColPlayers), "2P alt");
-    EXPECT_EQ(list.rows[1].Field(ColPlayers), "Unknown");
-    EXPECT_EQ(LoadOtherList(m_info, options, {}).rows[0].Field(ColPlayers), "")
+    EXPECT_EQ(list.machines->rows[0].Field(ColPlayers), "2P alt");
+    EXPECT_EQ(list.machines->rows[1].Field(ColPlayers), "Unknown");
+    EXPECT_EQ(LoadOtherList(m_info, options, {}).machines->rows[0].Field(ColPlayers), "")
         << "the other list has no Players column";
 }
 
@@ -133,7 +133,7 @@ TEST_F(Loader, ABrokenRecordOrMissingFileFailsWithTheVersionAdvice) {
               std::string::npos);
     const LoadedList missing = LoadOtherList(m_folder / "none.txt", Options(), {});
     EXPECT_NE(missing.error.find("Error In LoadListsOther: "), std::string::npos);
-    EXPECT_TRUE(missing.rows.empty());
+    EXPECT_TRUE(missing.machines->rows.empty());
 }
 
 } // namespace

@@ -1,0 +1,132 @@
+// Loading every machine list from a real catalogue, with the filters off and on, against
+// the floor of reading the two catalogue files once line by line.
+//
+// usage: list_load_bench CATALOGUE_OUTPUT_DIR
+// The folder is what `coinlight-tool catalogue` writes for MAME's -listxml output. The
+// benchmark makes a ROM folder with a few thousand sets and a players list with a key per
+// machine beside it, in a temporary folder.
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+#include "BenchSupport.h"
+#include "core/LineReader.h"
+#include "core/ProfileFile.h"
+#include "core/TextFile.h"
+#include "lists/ListLoader.h"
+
+using namespace coinlight;
+
+namespace {
+
+constexpr int kRomSets = 3000;
+
+std::size_t ReadLines(const std::filesystem::path& file) {
+    LineReader reader(file);
+    std::string_view line;
+    std::size_t bytes = 0;
+    while (reader.Next(line)) {
+        bytes += line.size();
+    }
+    return bytes;
+}
+
+/// Short names of a catalogue file, in order.
+std::vector<std::string> ShortNames(const std::filesystem::path& file) {
+    std::vector<std::string> names;
+    LineReader reader(file);
+    std::string_view line;
+    while (reader.Next(line)) {
+        std::size_t at = 0;
+        for (int quote = 0; quote < 25 && at != std::string_view::npos; ++quote) {
+            at = line.find('"', at + 1);
+        }
+        const std::size_t end = line.find('"', at + 1);
+        if (at != std::string_view::npos && end != std::string_view::npos) {
+            names.emplace_back(line.substr(at + 1, end - at - 1));
+        }
+    }
+    return names;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: list_load_bench CATALOGUE_OUTPUT_DIR\n";
+        return 2;
+    }
+    const std::filesystem::path output = argv[1];
+    const auto arcade = output / "arcadeinfo.txt";
+    const auto other = output / "otherinfo.txt";
+    const auto work = std::filesystem::temp_directory_path() / "coinlight-list-bench";
+    std::filesystem::remove_all(work);
+    std::filesystem::create_directories(work / "roms");
+
+    const auto names = ShortNames(arcade);
+    std::vector<std::string> players = {"[NPlayers]"};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (i < kRomSets) {
+            std::ofstream(work / "roms" / (names[i] + ".zip"));
+        }
+        players.push_back(names[i] + "=" + (i % 2 == 0 ? "2P alt" : "1P"));
+    }
+    WriteTextLines(work / "nplayers.ini", players);
+    std::printf("arcadeinfo.txt %ju bytes, otherinfo.txt %ju bytes, %zu arcade machines, "
+                "%d ROM sets\n",
+                static_cast<std::uintmax_t>(std::filesystem::file_size(arcade)),
+                static_cast<std::uintmax_t>(std::filesystem::file_size(other)), names.size(),
+                kRomSets);
+
+    std::size_t sink = 0;
+    const double floor =
+        bench::BestMilliseconds(5, [&] { sink += ReadLines(arcade) + ReadLines(other); });
+    const double getlineFloor = bench::BestMilliseconds(5, [&] {
+        for (const auto& file : {arcade, other}) {
+            std::ifstream in(file);
+            std::string line;
+            while (std::getline(in, line)) {
+                sink += line.size();
+            }
+        }
+    });
+
+    Preferences none;
+    Preferences filtered;
+    filtered.other.hideArcadeClones = filtered.other.hideOtherClones = true;
+    filtered.other.hideYear = true;
+    filtered.other.year = "1995";
+    filtered.other.hideChd = filtered.other.hideBootleg = true;
+    filtered.biosFilter = {{"Neo-Geo MV-6F: neogeo", true}};
+    filtered.categoryFilter = {{"Casino", true}};
+
+    std::size_t shown = 0;
+    const auto loadAll = [&](const Preferences& preferences) {
+        const RomFolderIndex roms({(work / "roms").string()});
+        ListLoadOptions arcadeOptions;
+        arcadeOptions.filters = ListFilterSettings::ForArcade(preferences);
+        arcadeOptions.roms = &roms;
+        arcadeOptions.nplayers = LoadProfile(work / "nplayers.ini");
+        ListLoadOptions otherOptions = arcadeOptions;
+        otherOptions.filters = ListFilterSettings::ForOther(preferences);
+        const LoadedList a = LoadArcadeList(arcade, arcadeOptions, {});
+        const LoadedList o = LoadOtherList(other, otherOptions, {});
+        if (!a.error.empty() || !o.error.empty()) {
+            std::cerr << a.error << o.error << '\n';
+            std::exit(1);
+        }
+        shown = a.machines->rows.size() + o.machines->rows.size();
+    };
+    const double off = bench::BestMilliseconds(5, [&] { loadAll(none); });
+    const std::size_t shownOff = shown;
+    const double on = bench::BestMilliseconds(5, [&] { loadAll(filtered); });
+
+    bench::PrintFigure("floor: both files read once, line by line", floor);
+    bench::PrintFigure("the same with std::getline", getlineFloor);
+    std::printf("  %-48s %10.2f ms  (%zu machines; %.2f x floor, %.2f x getline)\n",
+                "both lists, filters off", off, shownOff, off / floor, off / getlineFloor);
+    std::printf("  %-48s %10.2f ms  (%zu machines; %.2f x floor, %.2f x getline)\n",
+                "both lists, filters on", on, shown, on / floor, on / getlineFloor);
+    std::filesystem::remove_all(work);
+    return sink == 1 ? 1 : 0;
+}
