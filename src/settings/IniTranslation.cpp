@@ -44,14 +44,14 @@ const char* Flag(bool on) {
 /// What a chosen BIOS names: the text behind "> " of "description> name".
 std::string BiosName(std::string_view value) {
     const std::size_t arrow = value.find("> ");
-    // Without the arrow the first character goes, as the lists have always done.
+    // A value without the arrow loses its first character, as it always has.
     const std::size_t start =
         arrow == std::string_view::npos ? std::min<std::size_t>(1, value.size()) : arrow + 2;
     return LowerCase(value.substr(start));
 }
 
 std::string AudioLatencyValue(std::string_view value) {
-    // Older releases offered fractions of a frame; profiles may still hold them.
+    // The list no longer offers these texts, but a profile may still hold them.
     static constexpr std::array<std::string_view, 4> kFractions = {"1/5 To 2/5", "2/5 To 3/5",
                                                                    "3/5 To 4/5", "4/5 To 5/5"};
     const auto index = WordIndex(kFractions, value);
@@ -109,8 +109,13 @@ std::optional<std::string> AppendOptionLines(const OptionRow& row, std::string_v
             lines.push_back(IniLine(names[index++], each));
         }
     };
-    const auto bare = [&] {
-        lines.emplace_back(names.front());
+    // The word that means "MAME's own choice" gives the option alone.
+    const auto writeUnless = [&](std::string_view ownChoice, const auto& translated) {
+        if (value == ownChoice) {
+            lines.emplace_back(names.front());
+        } else {
+            write({translated()});
+        }
     };
 
     switch (row.rule) {
@@ -160,27 +165,17 @@ std::optional<std::string> AppendOptionLines(const OptionRow& row, std::string_v
         write({Without(value, "dB")});
         break;
     case IniRule::Controller:
-        if (value == "None") {
-            bare();
-        } else {
-            // The list shows file names; MAME wants the name without ".cfg".
-            write({LowerCase(
-                value.substr(0, value.size() - std::min<std::size_t>(4, value.size())))});
-        }
+        // The list shows file names; MAME wants the name without ".cfg".
+        writeUnless("None", [&] {
+            return LowerCase(
+                value.substr(0, value.size() - std::min<std::size_t>(4, value.size())));
+        });
         break;
     case IniRule::Bios:
-        if (value == "Default") {
-            bare();
-        } else {
-            write({BiosName(value)});
-        }
+        writeUnless("Default", [&] { return BiosName(value); });
         break;
     case IniRule::Language:
-        if (value == "Default") {
-            bare();
-        } else {
-            write({LowerCase(value)});
-        }
+        writeUnless("Default", [&] { return LowerCase(value); });
         break;
     case IniRule::AudioLatency:
         write({AudioLatencyValue(value)});

@@ -60,21 +60,6 @@ TEST(LaunchCommandLine, BlanksAroundOtherCommandsAreFoldedOnce) {
               "\"/m  m/ma");
 }
 
-TEST(LaunchCommandLine, ReachesTheShellWithPathsIntact) {
-    test::TempFolder folder;
-    const auto mame = folder / "MAME $HOME `x` \"q\"";
-    test::WriteFile(mame / "mame", "#!/bin/sh\nfor a; do printf '%s|' \"$a\"; done\n");
-    std::filesystem::permissions(mame / "mame", std::filesystem::perms::owner_all);
-    const DataLayout data{folder / "Data"};
-    std::filesystem::create_directories(data.Temp());
-    const Preferences preferences = MamePaths(mame.string(), (folder / "Ini Folder").string());
-    const auto line = ComposeLaunchCommandLine(preferences, data, "sf2", "-Cheat  -Bios Euro");
-    ASSERT_TRUE(line.has_value());
-    EXPECT_EQ(RunShell(*line).status, 0);
-    EXPECT_EQ(test::ReadFile(StandardOutputFile(data)),
-              "-inipath|" + (folder / "Ini Folder").string() + "|sf2|-cheat|-bios|euro|");
-}
-
 TEST(LaunchLineTool, PrintsTheArcadeCommandLine) {
     test::TempFolder folder;
     const auto options = folder / "Coin Data/settings/options.ini";

@@ -59,17 +59,13 @@ TEST(OptionCatalogue, RowsCarryTheirControlsDefaultsAndOptions) {
               (std::vector<std::string_view>{"ror", "rol", "autoror", "autorol"}));
     EXPECT_EQ(Row("Mouse Device").control, "cboInputDev(7)");
     EXPECT_EQ(Row("Mouse Device").defaultValue, "Mouse");
-    EXPECT_EQ(Row("Paddle Device").defaultValue, "Keyboard");
     EXPECT_EQ(Row("Joystick Threshold").defaultValue, "0.30");
-    EXPECT_EQ(Row("Audio Latency").defaultValue, "0.0");
     EXPECT_EQ(Row("Green Ratio").iniOptions, "grn_ratio");
     EXPECT_EQ(Row("Chroma Y Gain").defaultValue, "0.2126,0.7152,0.0722");
     EXPECT_EQ(Row("YIQ CC").defaultValue, "3.57954545");
     EXPECT_EQ(Row("BGFX Path").rule, IniRule::Path);
     EXPECT_EQ(Row("Screens").rule, IniRule::Screen);
     EXPECT_EQ(Row("Screen0").rule, IniRule::Lower);
-    EXPECT_EQ(Row("UI Mode Key").rule, IniRule::Copy);
-    EXPECT_EQ(Row("Plugin Enable").iniOptions, "plugin");
     EXPECT_EQ(Row("Fallback Artwork").defaultValue, "");
     EXPECT_EQ(Row("Other Commands").iniOptions, "");
     EXPECT_EQ(Row("Other Commands").section, "Miscellaneous");

@@ -29,10 +29,6 @@ TEST(CreateMultiplePathArray, SplitsAtSemicolonsAndWarnsAboutUnusableLists) {
     EXPECT_TRUE(list.paths.empty());
 }
 
-TEST(ShortPath, LeavesAPathAsItIs) {
-    EXPECT_EQ(ShortPath("/home/Me/My BGFX"), "/home/Me/My BGFX");
-}
-
 TEST(StartBoxes, RecordAndPlaybackExcludeEachOtherAndAutoRunStaysOutOfMameIni) {
     StartBoxes boxes;
     boxes.autoSave = true;
