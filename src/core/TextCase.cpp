@@ -18,6 +18,16 @@ std::string ToUpperAscii(std::string_view text) {
     return upper;
 }
 
+std::string ProperCase(std::string_view text) {
+    std::string proper(text);
+    bool wordStart = true;
+    for (char& c : proper) {
+        c = wordStart ? UpperAscii(c) : LowerAscii(c);
+        wordStart = c == ' ' || c == '\t';
+    }
+    return proper;
+}
+
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
         return false;

@@ -18,6 +18,8 @@ inline char UpperAscii(char c) {
 
 std::string ToLowerAscii(std::string_view text);
 std::string ToUpperAscii(std::string_view text);
+/// The first letter of every blank-separated word upper case, every other letter lower.
+std::string ProperCase(std::string_view text);
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix);
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <functional>
 
-#include "TextCase.h"
+#include "core/TextCase.h"
 #include "core/FileTests.h"
 
 namespace coinlight {

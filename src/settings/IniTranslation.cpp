@@ -6,7 +6,7 @@
 
 #include "MameIniText.h"
 #include "PathList.h"
-#include "TextCase.h"
+#include "core/TextCase.h"
 #include "core/ProfileDocument.h"
 
 namespace coinlight {
@@ -47,7 +47,7 @@ std::string BiosName(std::string_view value) {
     // A value without the arrow loses its first character, as it always has.
     const std::size_t start =
         arrow == std::string_view::npos ? std::min<std::size_t>(1, value.size()) : arrow + 2;
-    return LowerCase(value.substr(start));
+    return ToLowerAscii(value.substr(start));
 }
 
 std::string AudioLatencyValue(std::string_view value) {
@@ -55,7 +55,7 @@ std::string AudioLatencyValue(std::string_view value) {
     static constexpr std::array<std::string_view, 4> kFractions = {"1/5 To 2/5", "2/5 To 3/5",
                                                                    "3/5 To 4/5", "4/5 To 5/5"};
     const auto index = WordIndex(kFractions, value);
-    return index ? std::to_string(*index + 1) : LowerCase(value);
+    return index ? std::to_string(*index + 1) : ToLowerAscii(value);
 }
 
 } // namespace
@@ -123,7 +123,7 @@ std::optional<std::string> AppendOptionLines(const OptionRow& row, std::string_v
         write({value});
         break;
     case IniRule::Lower:
-        write({LowerCase(value)});
+        write({ToLowerAscii(value)});
         break;
     case IniRule::FrameSkip:
         if (value == "Auto") {
@@ -167,7 +167,7 @@ std::optional<std::string> AppendOptionLines(const OptionRow& row, std::string_v
     case IniRule::Controller:
         // The list shows file names; MAME wants the name without ".cfg".
         writeUnless("None", [&] {
-            return LowerCase(
+            return ToLowerAscii(
                 value.substr(0, value.size() - std::min<std::size_t>(4, value.size())));
         });
         break;
@@ -175,14 +175,14 @@ std::optional<std::string> AppendOptionLines(const OptionRow& row, std::string_v
         writeUnless("Default", [&] { return BiosName(value); });
         break;
     case IniRule::Language:
-        writeUnless("Default", [&] { return LowerCase(value); });
+        writeUnless("Default", [&] { return ToLowerAscii(value); });
         break;
     case IniRule::AudioLatency:
         write({AudioLatencyValue(value)});
         break;
     case IniRule::Screen:
         // A display name is written as the system spells it.
-        write({Contains(value, "Auto") ? LowerCase(value) : std::string(value)});
+        write({Contains(value, "Auto") ? ToLowerAscii(value) : std::string(value)});
         break;
     case IniRule::Path:
         write({ShortPath(value)});

@@ -1,7 +1,7 @@
 #include "MameIniBase.h"
 
 #include "MameIniText.h"
-#include "TextCase.h"
+#include "core/TextCase.h"
 #include "core/TextFile.h"
 
 namespace coinlight {
@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kCreateError = "Error In CreateMAMEIni";
 
 std::string SnapshotPart(const std::string& parts) {
-    return LowerCase(std::string_view(parts).substr(0, parts.find(';')));
+    return ToLowerAscii(std::string_view(parts).substr(0, parts.find(';')));
 }
 
 void AppendSearchPaths(std::vector<std::string>& lines, const SearchPathPreferences& paths,

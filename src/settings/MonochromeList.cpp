@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "TextCase.h"
+#include "core/TextCase.h"
 #include "core/TextFile.h"
 
 namespace coinlight {
@@ -74,13 +74,13 @@ MonochromeList MonochromeList::Load(const DataLayout& data) {
 
 MonochromeList::MonochromeList(std::vector<std::string> names) : m_names(std::move(names)) {
     for (auto& name : m_names) {
-        name = LowerCase(name);
+        name = ToLowerAscii(name);
     }
     std::sort(m_names.begin(), m_names.end());
 }
 
 bool MonochromeList::Contains(std::string_view machine) const {
-    return std::binary_search(m_names.begin(), m_names.end(), LowerCase(machine));
+    return std::binary_search(m_names.begin(), m_names.end(), ToLowerAscii(machine));
 }
 
 std::span<const std::string_view> MonochromeList::BuiltIn() {

@@ -1,6 +1,6 @@
 #include "ProfileChoice.h"
 
-#include "TextCase.h"
+#include "core/TextCase.h"
 #include "core/FileTests.h"
 
 namespace coinlight {
@@ -23,7 +23,7 @@ std::string ChooseProfileName(const ProfileClassFacts& facts, std::string_view c
     case 1:
         return name + (facts.monochrome ? "-m" : "-c");
     case 2:
-        return name + (facts.monochrome ? "-m" : "-c") + LowerCase(facts.orientation);
+        return name + (facts.monochrome ? "-m" : "-c") + ToLowerAscii(facts.orientation);
     default:
         return std::string(current);
     }
@@ -36,7 +36,7 @@ std::filesystem::path ProfilePath(const DataLayout& data, std::string_view name)
 std::optional<std::filesystem::path>
 ArcadeStartProfile(const DataLayout& data, std::string_view machine, std::string_view profileName) {
     for (const auto& candidate :
-         {ProfilePath(data, machine), ProfilePath(data, LowerCase(profileName))}) {
+         {ProfilePath(data, machine), ProfilePath(data, ToLowerAscii(profileName))}) {
         if (FileExists(candidate)) {
             return candidate;
         }

@@ -1,11 +1,13 @@
 #include "settings/OptionCatalogue.h"
 
+#include "core/TextCase.h"
+
 #include <gtest/gtest.h>
 #include <set>
 
 #include "settings/OptionValues.h"
 #include "settings/ProfileIniLayout.h"
-#include "settings/TextCase.h"
+#include "core/TextCase.h"
 #include "support/TestFiles.h"
 
 namespace coinlight {
@@ -35,7 +37,7 @@ TEST(OptionCatalogue, HoldsTheOptionsInProfileOrderWithUniqueNames) {
         if (sections.empty() || sections.back() != row.section) {
             sections.push_back(row.section);
         }
-        EXPECT_TRUE(keys.insert(LowerCase(row.key)).second) << row.key;
+        EXPECT_TRUE(keys.insert(ToLowerAscii(row.key)).second) << row.key;
         EXPECT_TRUE(controls.insert(row.control).second) << row.control;
         for (auto name : IniOptionNames(row)) {
             EXPECT_TRUE(iniOptions.insert(name).second) << name;
