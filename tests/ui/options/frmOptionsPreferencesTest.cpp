@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -68,6 +69,15 @@ TEST_F(OptionsPreferences, TheListsFillFromTheCatalogueAndTheSavedEntriesAreTick
     EXPECT_EQ(Checked(Categories(*form)), QStringList{"Hide Maze / Collect Systems"});
     EXPECT_TRUE(m_context.facts.hasCatver);
     EXPECT_TRUE(Find(*form, "lblBIOSWarning")->isHidden());
+
+    // The keyboard alone ticks a row: the space bar on the current one.
+    form->show();
+    Click(*form, "cmdNext");
+    Bios(*form)->setFocus();
+    Bios(*form)->setCurrentRow(0);
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+    QApplication::sendEvent(Bios(*form), &space);
+    EXPECT_EQ(Checked(Bios(*form)).size(), 2);
 }
 
 TEST_F(OptionsPreferences, FiltersAreSavedWithTheirFlagAndNoneLeaveItOff) {
