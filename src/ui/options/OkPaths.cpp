@@ -29,7 +29,6 @@ OkPathsResult FailOnMamePath(OkPathsResult result, const char* message, bool cle
     if (clear) {
         result.mamePath.clear();
     }
-    result.focusMamePath = true;
     return result;
 }
 

@@ -25,8 +25,7 @@ struct OkPathsResult {
     std::vector<std::string> messages;
     std::string mamePath;
     PathTexts texts;
-    bool focusMamePath = false;
-    std::optional<PathField> focusField;
+    std::optional<PathField> focusField; // none: the MAME path is at fault
     // Meaningful when ok:
     std::string executable; // the file name alone
     std::string mameFolder;
