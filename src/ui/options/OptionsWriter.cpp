@@ -1,0 +1,59 @@
+#include "OptionsWriter.h"
+
+#include <type_traits>
+
+#include "core/OptionsIni.h"
+#include "core/PreferenceKeys.h"
+#include "core/ProfileFile.h"
+
+namespace coinlight {
+
+namespace {
+
+template <class T> std::string ValueText(const T& value) {
+    if constexpr (std::is_same_v<T, bool>) {
+        return BoolText(value);
+    } else if constexpr (std::is_same_v<T, Colour>) {
+        return ColourText(value);
+    } else if constexpr (std::is_arithmetic_v<T>) {
+        return std::to_string(value);
+    } else {
+        return value;
+    }
+}
+
+/// Sets, in table order, the keys of one section that belong to the dialog.
+class DialogKeyWriter {
+public:
+    DialogKeyWriter(ProfileEditor& editor, const char* section)
+        : m_editor(editor), m_section(section) {}
+
+    template <class T> void operator()(std::string_view key, const T& field, KeyWriter writer) {
+        if (writer == KeyWriter::OptionsDialog) {
+            m_editor.Set(m_section, key, ValueText(field));
+        }
+    }
+
+private:
+    ProfileEditor& m_editor;
+    const char* m_section;
+};
+
+} // namespace
+
+bool WriteOptionsIni(const std::filesystem::path& file, const Preferences& preferences,
+                     std::string* error) {
+    if (!WriteFilterList(file, kSectionBiosFilter, preferences.biosFilter, error) ||
+        !WriteFilterList(file, kSectionCategoryFilter, preferences.categoryFilter, error)) {
+        return false;
+    }
+    ProfileEditor editor(file);
+    ForEachOtherKey(preferences.other, DialogKeyWriter(editor, kSectionOther));
+    ForEachMameKey(preferences.mame, DialogKeyWriter(editor, kSectionMame));
+    ForEachSearchPathKey(preferences.searchPaths, DialogKeyWriter(editor, kSectionSearchPaths));
+    ForEachOutputPathKey(preferences.outputPaths, DialogKeyWriter(editor, kSectionOutputPaths));
+    ForEachViewKey(preferences.view, DialogKeyWriter(editor, kSectionView));
+    return editor.Commit(true, error);
+}
+
+} // namespace coinlight
