@@ -11,25 +11,6 @@ namespace coinlight {
 
 namespace {
 
-std::string ToText(const std::string& value) {
-    return value;
-}
-std::string ToText(bool value) {
-    return BoolText(value);
-}
-std::string ToText(int value) {
-    return std::to_string(value);
-}
-std::string ToText(long long value) {
-    return std::to_string(value);
-}
-std::string ToText(Colour value) {
-    return ColourText(value);
-}
-std::string ToText(Day value) {
-    return DayText(value);
-}
-
 bool Convert(const std::string& text, std::string& field) {
     field = text;
     return true;
@@ -71,7 +52,7 @@ public:
         if (m_result.status != OptionsReadStatus::Ok) {
             return;
         }
-        const std::string text = ReadProfileValue(m_file, m_section, key, ToText(field));
+        const std::string text = ReadProfileValue(m_file, m_section, key, PreferenceText(field));
         if (!Convert(text, field)) {
             m_result = {OptionsReadStatus::Problem,
                         std::string(m_section) + "/" + std::string(key)};
@@ -183,7 +164,7 @@ bool SaveViewState(const std::filesystem::path& file, const Preferences& prefere
     // "Filters" belongs to the Options dialog; everything else of the section is view state.
     const auto writeViewKey = [&](std::string_view key, const auto& field, KeyWriter writer) {
         if (writer == KeyWriter::Elsewhere) {
-            editor.Set(kSectionView, key, ToText(field));
+            editor.Set(kSectionView, key, PreferenceText(field));
         }
     };
     ForEachViewKey(preferences.view, writeViewKey);

@@ -109,6 +109,8 @@ std::string DayText(Day day) {
     return text;
 }
 
+std::string PreferenceText(Day value) { return DayText(value); }
+
 std::optional<Day> ParseDay(std::string_view text) {
     text = TrimBlanks(text);
     int parts[3] = {0, 0, 0};

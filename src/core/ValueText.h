@@ -39,6 +39,14 @@ std::optional<Colour> ParseColour(std::string_view text);
 
 /// YYYY-MM-DD.
 std::string DayText(Day day);
+
+/// Any preference value as options.ini writes it.
+inline std::string PreferenceText(const std::string& value) { return value; }
+inline std::string PreferenceText(bool value) { return BoolText(value); }
+inline std::string PreferenceText(int value) { return std::to_string(value); }
+inline std::string PreferenceText(long long value) { return std::to_string(value); }
+inline std::string PreferenceText(Colour value) { return ColourText(value); }
+std::string PreferenceText(Day value);
 /// YYYY-MM-DD, or the month-first M/D/YYYY of files written elsewhere.
 std::optional<Day> ParseDay(std::string_view text);
 Day Today();

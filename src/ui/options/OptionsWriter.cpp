@@ -1,7 +1,5 @@
 #include "OptionsWriter.h"
 
-#include <type_traits>
-
 #include "core/OptionsIni.h"
 #include "core/PreferenceKeys.h"
 #include "core/ProfileFile.h"
@@ -9,18 +7,6 @@
 namespace coinlight {
 
 namespace {
-
-template <class T> std::string ValueText(const T& value) {
-    if constexpr (std::is_same_v<T, bool>) {
-        return BoolText(value);
-    } else if constexpr (std::is_same_v<T, Colour>) {
-        return ColourText(value);
-    } else if constexpr (std::is_arithmetic_v<T>) {
-        return std::to_string(value);
-    } else {
-        return value;
-    }
-}
 
 /// Sets, in table order, the keys of one section that belong to the dialog.
 class DialogKeyWriter {
@@ -30,7 +16,7 @@ public:
 
     template <class T> void operator()(std::string_view key, const T& field, KeyWriter writer) {
         if (writer == KeyWriter::OptionsDialog) {
-            m_editor.Set(m_section, key, ValueText(field));
+            m_editor.Set(m_section, key, PreferenceText(field));
         }
     }
 
