@@ -6,7 +6,7 @@
 
 #include "core/AppContext.h"
 #include "settings/StartBoxes.h"
-#include "settings/UserMessage.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

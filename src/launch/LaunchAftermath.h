@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/AppContext.h"
-#include "settings/UserMessage.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

@@ -7,7 +7,7 @@
 
 #include "MameIniBase.h"
 #include "OptionValues.h"
-#include "UserMessage.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

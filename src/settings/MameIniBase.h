@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "StartBoxes.h"
-#include "UserMessage.h"
+#include "core/UserMessage.h"
 #include "core/Preferences.h"
 
 namespace coinlight {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "UserMessage.h"
+#include "core/UserMessage.h"
 #include "core/Preferences.h"
 
 namespace coinlight {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "UserMessage.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

@@ -43,6 +43,14 @@ void frmMain::ConnectControls() {
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
     connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
+    connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
+    for (auto [box, which] : {std::pair{c.chkAutoSave, StartBox::AutoSave},
+                              std::pair{c.chkRecord, StartBox::Record},
+                              std::pair{c.chkPlayback, StartBox::Playback},
+                              std::pair{c.chkAutoRun, StartBox::AutoRun}}) {
+        connect(box, &QCheckBox::toggled, this,
+                [this, which = which](bool ticked) { StartBoxClicked(which, ticked); });
+    }
     connect(c.cmdGameList, &QPushButton::clicked, this, &frmMain::ReturnList1);
     for (std::size_t index = 0; index < c.lblBLinks.size(); ++index) {
         if (c.lblBLinks[index] != nullptr) {
@@ -87,6 +95,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkReturnList1:
         ReturnList1();
+        break;
+    case LinkFind:
+        Find();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -138,6 +149,7 @@ void frmMain::RaiseFromAnotherStart() {
 }
 
 void frmMain::AutoRunAtStart() {
+    const QSignalBlocker quiet(m_controls.chkAutoRun);
     m_controls.chkAutoRun->setChecked(true);
     PlayArcade();
 }

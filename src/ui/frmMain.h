@@ -11,6 +11,9 @@
 #include "core/AppContext.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
+#include "options/CategoryRowsCache.h"
+#include "options/MameLocations.h"
+#include "settings/StartBoxes.h"
 
 namespace coinlight {
 
@@ -60,6 +63,11 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
+    /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
+    void Find();
+
+    /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
+    void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
 
     const MainControls& Controls() const { return m_controls; }
     bool InOtherView() const { return m_inOtherView; }
@@ -87,6 +95,7 @@ private:
     void BuildListColumns();
     void ResetHiddenSortKeys();
     bool LoadAllLists();
+    void LoadBiosTables();
     void RestoreSelections();
     void ShowSavedView();
     void FixAllHidden();
@@ -102,6 +111,16 @@ private:
     void ShowDetails(MachineListView& list);
     void ApplyDetails(const SelectionDetails& details);
     DetailsSource DetailsSourceOf(const MachineListView& list, const MachineRow& row) const;
+
+    // Commands' steps
+    bool OpenOptions(bool firstRun);
+    void CreateMAMEIni();
+    StartBoxes CurrentStartBoxes() const;
+    void SetStartBoxes(const StartBoxes& boxes);
+    void StartBoxClicked(StartBox box, bool ticked);
+    void RebuildPathArrays();
+    void ShowStandardOutput(const std::string& text);
+    void ShowErrorOutput(const std::string& text);
 
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
@@ -135,6 +154,15 @@ private:
     std::vector<std::string> m_arcadeRomFolders;
     std::vector<std::string> m_otherRomFolders;
     std::set<int> m_hiddenColumns;
+    std::vector<std::string> m_artworkFolders;
+    std::string m_cabinetPath; // where the cabinet pictures lie
+    std::vector<std::string> m_arcadeBios;
+    std::vector<std::string> m_otherBios;
+    std::vector<std::string> m_softwareFolders;
+    std::string m_profileName;   // the class profile in force (ProfileName)
+    std::string m_commandString; // "Other Commands", then the last command line
+    CategoryRowsCache m_categoryCache;
+    MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
     bool m_inOtherView = false;
     bool m_openOptionsOnActivate = false;

@@ -14,7 +14,9 @@
 #include "core/Version.h"
 #include "frmMain.h"
 #include "frmSplash.h"
+#include "core/TextFile.h"
 #include "lists/ListColumns.h"
+#include "settings/MameIniBase.h"
 
 namespace coinlight {
 
@@ -28,20 +30,6 @@ QString ToQString(const std::filesystem::path& path) {
 constexpr const char* kCatalogueFiles[] = {
     "machine.xml",    "software.xml",   "arcadeinfo.txt", "otherinfo.txt", "crcinfo.txt",
     "biosfilter.txt", "arcadebios.txt", "otherbios.txt",  "bios.ini",      "softfilter.ini"};
-
-std::vector<std::string> SplitPathList(const std::string& paths) {
-    std::vector<std::string> folders;
-    std::size_t start = 0;
-    for (;;) {
-        const std::size_t end = paths.find(';', start);
-        folders.push_back(paths.substr(start, end - start));
-        if (end == std::string::npos) {
-            break;
-        }
-        start = end + 1;
-    }
-    return folders;
-}
 
 } // namespace
 
@@ -219,7 +207,7 @@ bool frmMain::FirstRunBranch() {
 
 bool frmMain::ShowOptionsAtFirstRun() {
     ShowPleaseWait(QStringLiteral("Please wait while Coinlight loads the Options form."), {});
-    Options();
+    OpenOptions(true);
     return !m_context.flags.fatalErrorFlag;
 }
 
@@ -285,10 +273,7 @@ void frmMain::WriteSupportSizes() {
 
 bool frmMain::LoadAllLists() {
     const Preferences& preferences = m_context.preferences;
-    m_arcadeRomFolders = SplitPathList(preferences.searchPaths.arcadeRoms);
-    m_otherRomFolders = preferences.searchPaths.otherRoms.empty()
-                            ? std::vector<std::string>{}
-                            : SplitPathList(preferences.searchPaths.otherRoms);
+    RebuildPathArrays();
     const bool hasOther = !preferences.searchPaths.otherRoms.empty();
     m_controls.mnuViewOtherMachines->setEnabled(hasOther);
     m_controls.cmdOtherSettings->setEnabled(hasOther);
@@ -302,7 +287,31 @@ bool frmMain::LoadAllLists() {
     if (!LoadListsArcade()) {
         return false;
     }
-    return !hasOther || LoadListsOther();
+    if (hasOther && !LoadListsOther()) {
+        return false;
+    }
+    LoadBiosTables();
+    m_cabinetPath = m_artworkFolders.empty() ? std::string() : m_artworkFolders.front();
+    for (const auto& folder : m_artworkFolders) {
+        if (folder.ends_with("/cabinet")) {
+            m_cabinetPath = folder; // the last such folder wins
+        }
+    }
+    if (!FileExists(MameIniFile(preferences))) {
+        CreateMAMEIni();
+    }
+    return !m_context.flags.fatalErrorFlag;
+}
+
+void frmMain::LoadBiosTables() {
+    // Element 0 is the default choice; element n the n-th BIOS line of the family.
+    for (auto [table, file] : {std::pair{&m_arcadeBios, "arcadebios.txt"},
+                               std::pair{&m_otherBios, "otherbios.txt"}}) {
+        *table = {"Default"};
+        for (auto& line : ReadTextLines(m_context.data.Output() / file).value_or(std::vector<std::string>{})) {
+            table->push_back(std::move(line));
+        }
+    }
 }
 
 bool frmMain::RegenerateIfMissing() {

@@ -103,6 +103,7 @@ void frmMain::ShowArcadeView(MachineListView& list, const char* viewText, QActio
     if (m_inOtherView) {
         // The mame.ini of the two families differs: it is written anew for arcade machines.
         m_inOtherView = false;
+        CreateMAMEIni();
         if (m_context.flags.fatalErrorFlag) {
             return;
         }
@@ -165,6 +166,7 @@ void frmMain::ViewOther() {
     SetLinksOrButtons();
     UpdateCommandSet();
     ShowListInView(*c.lvOther, m_context.preferences.view.other);
+    CreateMAMEIni();
 }
 
 void frmMain::PanelClearSoftware() {

@@ -26,6 +26,7 @@ void MainWindowFixture::WriteOptions(const std::string& extraSections) {
                   "\r\nMame.exe Size=" + std::to_string(mameSize) +
                   "\r\n\r\n[Core Search Path Options]\r\nMAME=" + m_mame.folder.string() +
                   "\r\nArcade ROMs=" + Roms().string() + "\r\nOther ROMs=" + Roms().string() +
+                  "\r\nIni=" + m_context.data.Temp().string() +
                   "\r\n\r\n" + extraSections);
 }
 

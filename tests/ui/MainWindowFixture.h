@@ -26,6 +26,8 @@ protected:
     std::filesystem::path Output() const { return m_context.data.Output(); }
 
     bool Load();
+    /// What the user was told, for the message of a failed assertion.
+    std::string Told() const { return m_prompter.Texts().join(" | ").toStdString(); }
     frmMain& Form() { return *m_form; }
     const MainControls& Controls() { return m_form->Controls(); }
     QString Panel(int index) {

@@ -17,7 +17,7 @@ protected:
 };
 
 TEST_F(MainWindow, LoadsEveryListSortedWithItsFirstRowSelected) {
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     EXPECT_EQ(c.lvAll->Model().rowCount(), 11);
     EXPECT_EQ(Names(*c.lvAvailable), (std::vector<std::string>{"galaga", "pacman", "pong"}));
@@ -31,7 +31,7 @@ TEST_F(MainWindow, LoadsEveryListSortedWithItsFirstRowSelected) {
 }
 
 TEST_F(MainWindow, EachViewSetsItsCaptionCountTickAndCommands) {
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     Form().ViewAvailableArcade();
     EXPECT_EQ(c.fraList->title(), "Available Arcade Machines");
@@ -71,7 +71,7 @@ TEST_F(MainWindow, EachViewSetsItsCaptionCountTickAndCommands) {
 
 TEST_F(MainWindow, TheToggleCyclesTheArcadeListsAndFiltersMarkTheCaption) {
     WriteOptions("[View]\r\nFilters=True\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     EXPECT_EQ(c.fraList->title(), "All Arcade Machines *");
     emit c.lblToggle->linkActivated(QStringLiteral("#"));
@@ -84,7 +84,7 @@ TEST_F(MainWindow, TheToggleCyclesTheArcadeListsAndFiltersMarkTheCaption) {
 
 TEST_F(MainWindow, TheDetailsStripFollowsTheSelectedRowOfEachList) {
     WriteFile(m_context.data.Settings() / "galaga.cfg", "[x]\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("pong"));
     EXPECT_EQ(Panel(1), "Pong (Rev E) & Friends");
@@ -129,7 +129,7 @@ TEST_F(MainWindow, EachFilterHidesItsMachinesAtLoad) {
     };
     for (const auto& [line, hidden] : filters) {
         WriteOptions("[Preferences Other]\r\n" + line + "\r\n");
-        ASSERT_TRUE(Load()) << line;
+        ASSERT_TRUE(Load()) << line << Told();
         const auto names = Names(*Controls().lvAll);
         EXPECT_EQ(names.size(), 10u) << line;
         EXPECT_EQ(std::count(names.begin(), names.end(), hidden), 0) << line;
@@ -137,7 +137,7 @@ TEST_F(MainWindow, EachFilterHidesItsMachinesAtLoad) {
     }
     WriteOptions("[Preferences BIOS]\r\nNeo-Geo MV-6F: neogeo=True\r\nTotal=1\r\n\r\n"
                  "[Preferences Other]\r\nHide Year=True\r\nYear=1985\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     EXPECT_EQ(Names(*Controls().lvAll),
               (std::vector<std::string>{"asteroid", "galaga", "mspacman", "pacman", "pong"}))
         << "neogeo is too late, dkongb has no four-digit year, mslug goes with its BIOS";
@@ -149,7 +149,7 @@ TEST_F(MainWindow, SavedSelectionAndSortComeBackUnlessTheyCannot) {
     WriteOptions("[Preferences Other]\r\nHide Arcade Clones=True\r\n\r\n[View]\r\n"
                  "All Key=k.mspacman\r\nAll Sort Key=2\r\nAll Sort Order=1\r\n"
                  "Available Key=k.pong\r\nAvailable Sort Key=1\r\nAvailable Sort Order=1\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     EXPECT_EQ(c.lvAll->SelectedRow(), 0) << "a machine the filters hide selects the first row";
     EXPECT_EQ(c.lvAll->Model().SortKey(), 0) << "a hidden column cannot stay the sort column";
@@ -163,7 +163,7 @@ TEST_F(MainWindow, SavedSelectionAndSortComeBackUnlessTheyCannot) {
 
 TEST_F(MainWindow, HeaderClicksSortAndSmallListsIgnoreThem) {
     WriteOptions("[Preferences Other]\r\nHide CHD=True\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     Form().SortColumn(*c.lvAll, ColYear);
     EXPECT_EQ(Names(*c.lvAll).front(), "pong");
@@ -181,7 +181,7 @@ TEST_F(MainWindow, AListOfOneRowIgnoresHeaderClicks) {
          {"mspacman", "asteroid", "vsmario", "dkongb", "neogeo", "mslug", "kinst"}) {
         AddRom(name);
     }
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     Form().ViewUnavailableArcade();
     ASSERT_EQ(c.lvUnavailable->Model().rowCount(), 1);
@@ -191,7 +191,7 @@ TEST_F(MainWindow, AListOfOneRowIgnoresHeaderClicks) {
 }
 
 TEST_F(MainWindow, ClosingSavesWhatTheUserLeft) {
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MainControls& c = Controls();
     c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("galaga"));
     Form().SortColumn(*c.lvAll, ColYear);
@@ -206,7 +206,7 @@ TEST_F(MainWindow, ClosingSavesWhatTheUserLeft) {
 
 TEST_F(MainWindow, PlayersComeFromTheSupportFile) {
     WriteFile(m_context.data.Support() / "nplayers.ini", "[NPlayers]\r\npacman=2P alt\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const MachineListModel& all = Controls().lvAll->Model();
     EXPECT_EQ(all.headerData(ColPlayers, Qt::Horizontal, Qt::DisplayRole).toString(), "Players");
     EXPECT_EQ(all.Row(all.RowOfShortName("pacman"))->Field(ColPlayers), "2P alt");
@@ -227,7 +227,7 @@ TEST_F(MainWindow, ABrokenRecordEndsTheStartWithTheVersionAdvice) {
 
 TEST_F(MainWindow, FavouritesFilesMissingDifferByFamily) {
     WriteOptions("[View]\r\nFavorite Arcade=True\r\n");
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     EXPECT_EQ(Controls().lvAll->Model().rowCount(), 11) << "the full arcade list instead";
     EXPECT_FALSE(m_context.preferences.view.favoriteArcade);
     EXPECT_FALSE(Controls().mnuViewArcadeFavorites->isChecked());
@@ -242,7 +242,7 @@ TEST_F(MainWindow, FavouritesFilesMissingDifferByFamily) {
 TEST_F(MainWindow, AMissingRomFolderLeavesEveryMachineThatNeedsFilesUnavailable) {
     WriteOptions();
     std::filesystem::remove_all(Roms());
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     EXPECT_EQ(Names(*Controls().lvAvailable), (std::vector<std::string>{"pong"}));
     EXPECT_EQ(Controls().lvUnavailable->Model().rowCount(), 10);
 }

@@ -79,7 +79,7 @@ TEST_F(MainLoad, AFailedMigrationEndsTheStartWithTheLoadError) {
 
 TEST_F(MainLoad, TheStartWritesTheSizesItComparesNextTime) {
     WriteOptions();
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     const auto options = m_context.data.OptionsIni();
     EXPECT_EQ(ReadProfileValue(options, "MAME", "Mame.exe Size", ""),
               std::to_string(*FileSize(m_mame.folder / m_mame.executable)));
@@ -90,7 +90,7 @@ TEST_F(MainLoad, TheStartWritesTheSizesItComparesNextTime) {
 }
 
 TEST_F(MainLoad, ClosingEmptiesTempAndSavesTheViewUnlessTheUserGaveUp) {
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     WriteFile(m_context.data.Temp() / "results.txt", "x");
     Form().ViewOther();
     Form().close();
@@ -98,7 +98,7 @@ TEST_F(MainLoad, ClosingEmptiesTempAndSavesTheViewUnlessTheUserGaveUp) {
     EXPECT_EQ(ReadProfileValue(m_context.data.OptionsIni(), "View", "List View", ""),
               "Other Machines");
 
-    ASSERT_TRUE(Load());
+    ASSERT_TRUE(Load()) << Told();
     Form().ViewAvailableArcade();
     m_context.flags.closeRequested = true;
     Form().close();
