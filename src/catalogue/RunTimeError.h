@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace coinlight {
 
@@ -14,24 +15,24 @@ struct RunTimeError {
 
 inline constexpr int kErrorInvalidCall = 5;
 inline constexpr int kErrorOverflow = 6;
+inline constexpr int kErrorOutOfMemory = 7;
 inline constexpr int kErrorFileNotFound = 53;
 inline constexpr int kErrorPastEnd = 62;
+inline constexpr int kErrorDeviceIo = 57;
 inline constexpr int kErrorFileAccess = 75;
 
 inline constexpr const char* kInvalidCallText = "Invalid procedure call or argument";
 inline constexpr const char* kOverflowText = "Overflow";
+inline constexpr const char* kOutOfMemoryText = "Out of memory";
 inline constexpr const char* kFileNotFoundText = "File not found";
 inline constexpr const char* kPastEndText = "Input past end of file";
+inline constexpr const char* kDeviceIoText = "Device I/O error";
 
-/// Thrown inside a catalogue routine and caught at its edge, where it becomes the message
-/// of that routine: the one handler at the end of each routine, as the user knows it.
-/// It never leaves the catalogue library.
-struct CatalogueAbort {
-    RunTimeError error;
-};
-
-[[noreturn]] inline void Abort(int number, std::string description, int location) {
-    throw CatalogueAbort{{number, std::move(description), location}};
+/// The text of a routine's error handler: "Error In <routine>: <description>", a line
+/// break, "Line Number: <location>".
+inline std::string HandlerMessage(std::string_view routine, const RunTimeError& error) {
+    return "Error In " + std::string(routine) + ": " + error.description +
+           "\nLine Number: " + std::to_string(error.location);
 }
 
 } // namespace coinlight

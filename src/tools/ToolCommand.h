@@ -19,5 +19,6 @@ struct ToolCommand {
 int ToolUsageError(const ToolCommand& command);
 
 std::vector<ToolCommand> IniCommands();
+std::vector<ToolCommand> CatalogueCommands();
 
 } // namespace coinlight

@@ -1,0 +1,102 @@
+#include "TextCase.h"
+
+namespace coinlight {
+
+namespace {
+
+bool IsWordSeparator(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f' || c == '\0';
+}
+
+char Upper(char c) {
+    return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 32) : c;
+}
+
+char Lower(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (Lower(a[i]) != Lower(b[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::string ProperCase(std::string_view text) {
+    std::string result(text);
+    bool wordStart = true;
+    for (char& c : result) {
+        if (IsWordSeparator(c)) {
+            wordStart = true;
+            continue;
+        }
+        c = wordStart ? Upper(c) : Lower(c);
+        wordStart = false;
+    }
+    return result;
+}
+
+std::string CapitaliseFirst(std::string_view text) {
+    std::string result(text);
+    if (!result.empty()) {
+        result[0] = Upper(result[0]);
+    }
+    return result;
+}
+
+std::string_view TrimLeadingSpaces(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+std::string_view TrimSpaces(std::string_view text) {
+    text = TrimLeadingSpaces(text);
+    const std::size_t last = text.find_last_not_of(' ');
+    return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with,
+                       bool ignoreCase) {
+    if (what.empty()) {
+        return std::string(text);
+    }
+    std::string result;
+    result.reserve(text.size());
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const std::string_view rest = text.substr(at);
+        if (rest.size() >= what.size() &&
+            (ignoreCase ? SameIgnoringCase(rest.substr(0, what.size()), what)
+                        : rest.starts_with(what))) {
+            result.append(with);
+            at += what.size();
+        } else {
+            result.push_back(text[at]);
+            ++at;
+        }
+    }
+    return result;
+}
+
+std::string UpperCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        c = Upper(c);
+    }
+    return result;
+}
+
+std::string LowerCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        c = Lower(c);
+    }
+    return result;
+}
+
+} // namespace coinlight

@@ -1,0 +1,85 @@
+#include "XmlLineScanners.h"
+
+#include <array>
+#include <vector>
+
+namespace coinlight {
+
+XmlAttribute GetXMLAttribute(std::string_view line, std::string_view key) {
+    const std::size_t keyAt = line.find(key);
+    if (keyAt == std::string_view::npos) {
+        return {};
+    }
+    // 1-based positions, as the limit has always counted them.
+    const std::size_t valueStart = keyAt + key.size() + 1;
+    if (keyAt + 1 > kLinePositionLimit || valueStart + 1 > kLinePositionLimit) {
+        return {{}, kErrorOverflow};
+    }
+    const std::size_t close = valueStart <= line.size() ? line.find('"', valueStart) : line.npos;
+    if (close == std::string_view::npos) {
+        return {{}, kErrorInvalidCall};
+    }
+    if (close + 1 > kLinePositionLimit) {
+        return {{}, kErrorOverflow};
+    }
+    return {line.substr(valueStart, close - valueStart), 0};
+}
+
+std::string_view GetXMLElement(std::string_view line, std::string_view key) {
+    const std::size_t keyAt = line.find(key);
+    if (keyAt == std::string_view::npos) {
+        return {};
+    }
+    const std::size_t start = keyAt + key.size();
+    const std::size_t end = line.find('<', start);
+    if (end == std::string_view::npos) {
+        return {};
+    }
+    return line.substr(start, end - start);
+}
+
+std::string StripPattern(std::string_view text, std::string_view pattern,
+                         std::string_view replacement) {
+    std::vector<std::string_view> alternatives;
+    std::array<bool, 256> starts{}; // first bytes of the alternatives: the rest is copied
+    for (std::size_t start = 0;;) {
+        const std::size_t bar = pattern.find('|', start);
+        const std::string_view alternative = pattern.substr(start, bar - start);
+        if (!alternative.empty()) {
+            alternatives.push_back(alternative);
+            starts[static_cast<unsigned char>(alternative[0])] = true;
+        }
+        if (bar == std::string_view::npos) {
+            break;
+        }
+        start = bar + 1;
+    }
+    std::string result;
+    result.reserve(text.size());
+    std::size_t copied = 0; // text before this is already in the result
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::size_t matched = 0;
+        if (starts[static_cast<unsigned char>(text[at])]) {
+            const std::string_view rest = text.substr(at);
+            for (const auto alternative : alternatives) {
+                if (rest.starts_with(alternative)) {
+                    matched = alternative.size();
+                    break;
+                }
+            }
+        }
+        if (matched == 0) {
+            ++at;
+            continue;
+        }
+        result.append(text.substr(copied, at - copied));
+        result.append(replacement);
+        at += matched;
+        copied = at;
+    }
+    result.append(text.substr(copied));
+    return result;
+}
+
+} // namespace coinlight
