@@ -89,7 +89,7 @@ CatalogueWriters::CatalogueWriters(const std::filesystem::path& outputFolder)
       crcInfo(outputFolder / kCrcInfo), otherInfo(outputFolder / kOtherInfo),
       arcadeBios(outputFolder / kArcadeBios), otherBios(outputFolder / kOtherBios) {}
 
-CatalogueBuilder::CatalogueBuilder(const MachineLists& lists, DeviceRomScanner& devices,
+CatalogueBuilder::CatalogueBuilder(const MachineLists& lists, DeviceRomSource& devices,
                                    const ProfileDocument* catver, CatalogueWriters& writers,
                                    CatalogueProgress& progress)
     : m_lists(lists), m_devices(devices), m_catver(catver), m_writers(writers),

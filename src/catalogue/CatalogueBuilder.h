@@ -8,7 +8,7 @@
 
 #include "BlockLineReader.h"
 #include "CatalogueProgress.h"
-#include "DeviceRomScan.h"
+#include "DeviceRomSource.h"
 #include "MachineFields.h"
 #include "MachineLists.h"
 #include "ProfileTextBuilder.h"
@@ -56,7 +56,7 @@ struct CatalogueCounts {
 /// they are settled and written as soon as the first pass is done.
 class CatalogueBuilder {
 public:
-    CatalogueBuilder(const MachineLists& lists, DeviceRomScanner& devices,
+    CatalogueBuilder(const MachineLists& lists, DeviceRomSource& devices,
                      const ProfileDocument* catver, CatalogueWriters& writers,
                      CatalogueProgress& progress);
 
@@ -115,7 +115,7 @@ private:
     bool AnyDeviceRom(const PendingRefs& refs) const;
 
     const MachineLists& m_lists;
-    DeviceRomScanner& m_devices;
+    DeviceRomSource& m_devices;
     const NameList* m_deviceRoms = nullptr;
     PendingRefs m_pendingRefs;
     std::size_t m_pendingNameCount = 0;

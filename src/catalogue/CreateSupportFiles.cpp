@@ -4,6 +4,7 @@
 
 #include "CatalogueAbort.h"
 #include "CatalogueFiles.h"
+#include "DeviceRomScan.h"
 #include "FileCopy.h"
 #include "core/ProfileFile.h"
 #include "core/TextFile.h"

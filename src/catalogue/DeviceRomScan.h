@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "BlockLineReader.h"
+#include "DeviceRomSource.h"
 #include "NameList.h"
 #include "RunTimeError.h"
 
@@ -18,18 +19,18 @@ NameList CollectDeviceRoms(BlockLineReader& machineXml);
 
 /// Runs the first pass on a thread of its own, so that the second can start at once and
 /// settle the device question for the machines it met in the meantime when this is done.
-class DeviceRomScanner {
+class DeviceRomScanner final : public DeviceRomSource {
 public:
     explicit DeviceRomScanner(const std::filesystem::path& machineXml);
-    ~DeviceRomScanner();
+    ~DeviceRomScanner() override;
     DeviceRomScanner(const DeviceRomScanner&) = delete;
     DeviceRomScanner& operator=(const DeviceRomScanner&) = delete;
 
     /// True when the scan has ended, so that Wait returns at once.
-    bool Done() const { return m_done.load(std::memory_order_acquire); }
+    bool Done() const override { return m_done.load(std::memory_order_acquire); }
 
     /// The list, once the scan has ended; its failure ends the routine.
-    const NameList& Wait();
+    const NameList& Wait() override;
 
 private:
     BlockLineReader m_reader;
