@@ -1,6 +1,7 @@
 #include "XmlLineScanners.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace coinlight {
@@ -38,37 +39,61 @@ std::string_view GetXMLElement(std::string_view line, std::string_view key) {
     return line.substr(start, end - start);
 }
 
+namespace {
+
+/// A pattern split into its alternatives, with the bytes that can start a match.
+class Alternatives {
+public:
+    explicit Alternatives(std::string_view pattern) {
+        for (std::size_t start = 0;;) {
+            const std::size_t bar = pattern.find('|', start);
+            const std::string_view alternative = pattern.substr(start, bar - start);
+            if (!alternative.empty()) {
+                m_alternatives.push_back(alternative);
+                m_starts[static_cast<unsigned char>(alternative[0])] = true;
+            }
+            if (bar == std::string_view::npos) {
+                break;
+            }
+            start = bar + 1;
+        }
+    }
+
+    bool MayStartAt(char c) const { return m_starts[static_cast<unsigned char>(c)]; }
+
+    /// The length of the first alternative that matches at the start of `text`, or 0.
+    std::size_t MatchAt(std::string_view text) const {
+        for (const auto alternative : m_alternatives) {
+            if (text.starts_with(alternative)) {
+                return alternative.size();
+            }
+        }
+        return 0;
+    }
+
+private:
+    std::vector<std::string_view> m_alternatives;
+    std::array<bool, 256> m_starts{};
+};
+
+} // namespace
+
 std::string StripPattern(std::string_view text, std::string_view pattern,
                          std::string_view replacement) {
-    std::vector<std::string_view> alternatives;
-    std::array<bool, 256> starts{}; // first bytes of the alternatives: the rest is copied
-    for (std::size_t start = 0;;) {
-        const std::size_t bar = pattern.find('|', start);
-        const std::string_view alternative = pattern.substr(start, bar - start);
-        if (!alternative.empty()) {
-            alternatives.push_back(alternative);
-            starts[static_cast<unsigned char>(alternative[0])] = true;
-        }
-        if (bar == std::string_view::npos) {
-            break;
-        }
-        start = bar + 1;
+    // The builders strip every description: most hold nothing to strip.
+    thread_local std::string lastPattern;
+    thread_local std::optional<Alternatives> alternatives;
+    if (!alternatives || lastPattern != pattern) {
+        lastPattern = pattern;
+        alternatives.emplace(pattern);
     }
     std::string result;
     result.reserve(text.size());
     std::size_t copied = 0; // text before this is already in the result
     std::size_t at = 0;
     while (at < text.size()) {
-        std::size_t matched = 0;
-        if (starts[static_cast<unsigned char>(text[at])]) {
-            const std::string_view rest = text.substr(at);
-            for (const auto alternative : alternatives) {
-                if (rest.starts_with(alternative)) {
-                    matched = alternative.size();
-                    break;
-                }
-            }
-        }
+        const std::size_t matched =
+            alternatives->MayStartAt(text[at]) ? alternatives->MatchAt(text.substr(at)) : 0;
         if (matched == 0) {
             ++at;
             continue;
