@@ -4,6 +4,7 @@
 #include <string>
 
 #include "CatalogueFiles.h"
+#include "MachineLookups.h"
 #include "QuotedRecordFile.h"
 #include "core/AtomicFileWriter.h"
 #include "core/ProfileFile.h"
@@ -37,8 +38,7 @@ std::optional<RunTimeError> MergeCategories(const std::filesystem::path& recordF
         if (!ReadMachineRecord(in, fields)) {
             return RunTimeError{kErrorPastEnd, kPastEndText, kLocationRead};
         }
-        fields[MachineField::Category] =
-            ReadProfileValue(catver, "Category", fields[MachineField::Rom], "Unknown");
+        fields[MachineField::Category] = CategoryOf(catver, fields[MachineField::Rom]);
         WriteMachineRecord(out, fields);
     }
     if (!out.Commit()) {

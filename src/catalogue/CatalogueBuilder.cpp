@@ -5,10 +5,10 @@
 
 #include "CatalogueAbort.h"
 #include "CatalogueFiles.h"
+#include "MachineLookups.h"
 #include "QuotedRecordFile.h"
 #include "TextCase.h"
 #include "XmlLineScanners.h"
-#include "core/ProfileFile.h"
 
 namespace coinlight {
 
@@ -443,8 +443,7 @@ void CatalogueBuilder::EndMachine() {
     }
     DevicesKnown();
     if (m_catver != nullptr) {
-        m_fields[F::Category] =
-            ReadProfileValue(*m_catver, "Category", m_fields[F::Rom], "Unknown");
+        m_fields[F::Category] = CategoryOf(*m_catver, m_fields[F::Rom]);
     }
     FillDefaults();
     CountMachine();

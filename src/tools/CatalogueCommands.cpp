@@ -14,6 +14,25 @@ namespace coinlight {
 
 namespace {
 
+/// The arguments split into the positional ones and the values of `option`, which may
+/// stand anywhere and more than once.
+struct SplitArguments {
+    std::vector<std::string> positional;
+    std::vector<std::string> values;
+};
+
+SplitArguments Split(const ToolArguments& arguments, std::string_view option) {
+    SplitArguments split;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == option && i + 1 < arguments.size()) {
+            split.values.push_back(arguments[++i]);
+        } else {
+            split.positional.push_back(arguments[i]);
+        }
+    }
+    return split;
+}
+
 int ReportFailure(const CatalogueOutcome& outcome) {
     for (const auto& message : outcome.messages) {
         std::cerr << message.text << '\n';
@@ -41,17 +60,13 @@ int MakeListsCommand(const ToolArguments& arguments) {
 }
 
 int CatalogueCommand(const ToolArguments& arguments) {
-    CatalogueSources sources;
-    std::vector<std::string> positional;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == "--catver" && i + 1 < arguments.size()) {
-            sources.catverIni = arguments[++i];
-        } else {
-            positional.push_back(arguments[i]);
-        }
-    }
-    if (positional.size() != 3) {
+    const auto [positional, catver] = Split(arguments, "--catver");
+    if (positional.size() != 3 || catver.size() > 1) {
         return -1;
+    }
+    CatalogueSources sources;
+    if (!catver.empty()) {
+        sources.catverIni = catver.front();
     }
     sources.machineXml = positional[0];
     sources.listsTxt = positional[1];
@@ -76,18 +91,12 @@ int CatalogueCommand(const ToolArguments& arguments) {
 }
 
 int SoftwareCommand(const ToolArguments& arguments) {
-    SoftwareSources sources;
-    std::vector<std::string> positional;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == "--swpath" && i + 1 < arguments.size()) {
-            sources.softwarePaths.emplace_back(arguments[++i]);
-        } else {
-            positional.push_back(arguments[i]);
-        }
-    }
+    const auto [positional, paths] = Split(arguments, "--swpath");
     if (positional.size() != 5) {
         return -1;
     }
+    SoftwareSources sources;
+    sources.softwarePaths.assign(paths.begin(), paths.end());
     sources.softwareXml = positional[0];
     sources.softFilterIni = positional[1];
     const std::string& machine = positional[2];

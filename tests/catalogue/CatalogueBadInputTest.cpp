@@ -118,20 +118,13 @@ TEST(CatalogueBadInput, ALineBeyondSixteenBitPositions) {
 
 TEST(CatalogueBadInput, MoreOtherMachinesThanSixteenBitsCount) {
     CatalogueFolder folder;
-    std::string xml = "<mame>\n";
-    std::string other = "|";
-    for (int i = 0; i < 32768; ++i) {
-        const std::string name = "o" + std::to_string(i);
-        xml += "\t<machine name=\"" + name +
-               "\">\n\t\t<display type=\"lcd\"/>\n"
-               "\t\t<softwarelist name=\"l\" filter=\"f\"/>\n\t</machine>\n";
-        other += name + "|";
-    }
+    const auto machines = GenerateMachines(32768, "o", "lcd");
     ExpectFailureThenRecovery(
         folder,
         [&] {
-            WriteFile(folder.Output() / "machine.xml", xml + "</mame>\n");
-            WriteFile(folder.Support() / "lists.txt", "Arcade\n|\nOther\n" + other + "\n");
+            WriteFile(folder.Output() / "machine.xml", machines.xml);
+            WriteFile(folder.Support() / "lists.txt",
+                      "Arcade\n|\nOther\n" + machines.listLine + "\n");
         },
         "Error In CreateSupportFiles: Overflow\nLine Number: 816");
 }

@@ -40,6 +40,25 @@ public:
     int pumps = 0;
 };
 
+/// A machine list of `count` machines named `prefix` and a number, each with a screen of
+/// `screen` type and a filtered software list, and the list line that names them all.
+struct GeneratedMachines {
+    std::string xml;
+    std::string listLine;
+};
+inline GeneratedMachines GenerateMachines(int count, const std::string& prefix,
+                                          const std::string& screen) {
+    GeneratedMachines made{"<mame>\n", "|"};
+    for (int i = 0; i < count; ++i) {
+        const std::string name = prefix + std::to_string(i);
+        made.xml += "\t<machine name=\"" + name + "\">\n\t\t<display type=\"" + screen +
+                    "\"/>\n\t\t<softwarelist name=\"l\" filter=\"f\"/>\n\t</machine>\n";
+        made.listLine += name + "|";
+    }
+    made.xml += "</mame>\n";
+    return made;
+}
+
 /// A data folder's output and support folders with the catalogue fixtures in place.
 struct CatalogueFolder {
     TempFolder temp;

@@ -230,17 +230,9 @@ TEST(CreateSupportFiles, ASecondRunKeepsTheLastCopiesAndDropsAnOldReport) {
 
 TEST(CreateSupportFiles, CountsAreShownAtTheFirstMachineEveryTwentyFifthAndTheEnd) {
     CatalogueFolder folder;
-    std::string xml = "<mame>\n";
-    std::string arcade = "|";
-    for (int i = 0; i < 60; ++i) {
-        const std::string name = "m" + std::to_string(i);
-        xml += "\t<machine name=\"" + name +
-               "\">\n\t\t<display type=\"raster\"/>\n"
-               "\t\t<softwarelist name=\"l\" filter=\"f\"/>\n\t</machine>\n";
-        arcade += name + "|";
-    }
-    WriteFile(folder.Output() / "machine.xml", xml + "</mame>\n");
-    WriteFile(folder.Support() / "lists.txt", "Arcade\n" + arcade + "\nOther\n|\n");
+    const auto machines = GenerateMachines(60, "m", "raster");
+    WriteFile(folder.Output() / "machine.xml", machines.xml);
+    WriteFile(folder.Support() / "lists.txt", "Arcade\n" + machines.listLine + "\nOther\n|\n");
     RecordingProgress progress;
     ASSERT_TRUE(CreateSupportFiles(folder.Sources(), progress).outcome.Succeeded());
     std::vector<std::string> counts;

@@ -20,6 +20,7 @@ struct SoftwareFolder {
         sources.softwareXml = FixturesFolder() / "catalogue" / "software.xml";
         sources.softFilterIni = temp / "softfilter.ini";
         WriteFile(sources.softFilterIni, "[console]\r\nconsole=NTSC\r\nconsole_cass=\r\n");
+        std::filesystem::create_directories(File().parent_path());
     }
 
     RecordLoad<SoftwareRecord> Make(const std::string& machine, const std::string& lists) {
@@ -42,7 +43,6 @@ std::vector<std::string> Names(const RecordLoad<SoftwareRecord>& load) {
 
 TEST(SoftwareCatalogue, KeepsGoodItemsOfTheListWithEveryField) {
     SoftwareFolder folder;
-    std::filesystem::create_directories(folder.temp / "soft");
     const auto load = folder.Make("console", "console");
     ASSERT_FALSE(load.error);
     // "broken" has a no-dump ROM, "palonly" fails the NTSC filter, "baddisk" a no-dump disk,
@@ -65,7 +65,6 @@ TEST(SoftwareCatalogue, KeepsGoodItemsOfTheListWithEveryField) {
 
 TEST(SoftwareCatalogue, WithoutAFilterEveryCompatibilityStaysAndListsFollowEachOther) {
     SoftwareFolder folder;
-    std::filesystem::create_directories(folder.temp / "soft");
     // No section for this machine: nothing is filtered.
     const auto load = folder.Make("both", "console_cass;console;nosuchlist");
     ASSERT_FALSE(load.error);
@@ -78,7 +77,6 @@ TEST(SoftwareCatalogue, WithoutAFilterEveryCompatibilityStaysAndListsFollowEachO
 
 TEST(SoftwareCatalogue, AvailabilityLooksForFoldersForDisksAndArchivesOtherwise) {
     SoftwareFolder folder;
-    std::filesystem::create_directories(folder.temp / "soft");
     const auto first = folder.temp / "roms one";
     const auto second = folder.temp / "roms$two";
     WriteFile(second / "console" / "good.7z", "x");

@@ -2,10 +2,10 @@
 #include <variant>
 
 #include "catalogue/BlockLineReader.h"
-#include "catalogue/CatverFile.h"
+#include "catalogue/MachineLookups.h"
 #include "catalogue/MakeLists.h"
 #include "catalogue/MonochromeList.h"
-#include "catalogue/NPlayersFile.h"
+#include "core/ProfileFile.h"
 #include "support/TestFiles.h"
 
 using namespace coinlight;
@@ -15,13 +15,13 @@ TEST(SupportFileReaders, CatverAndNPlayersDefaultToUnknown) {
     TempFolder folder;
     WriteFile(folder / "catver.ini", "[Category]\nalpha = Maze\n[VerAdded]\nbeta=0.1\n");
     WriteFile(folder / "nplayers.ini", "[NPlayers]\r\nALPHA=2P alt\r\n");
-    const CatverFile catver(folder / "catver.ini");
-    EXPECT_EQ(catver.CategoryOf("alpha"), "Maze");
-    EXPECT_EQ(catver.CategoryOf("beta"), "Unknown");
-    const NPlayersFile players(folder / "nplayers.ini");
-    EXPECT_EQ(players.PlayersOf("alpha"), "2P alt");
-    EXPECT_EQ(players.PlayersOf("beta"), "Unknown");
-    EXPECT_EQ(CatverFile(folder / "missing.ini").CategoryOf("alpha"), "Unknown");
+    const auto catver = LoadProfile(folder / "catver.ini");
+    EXPECT_EQ(CategoryOf(*catver, "alpha"), "Maze");
+    EXPECT_EQ(CategoryOf(*catver, "beta"), "Unknown");
+    const auto players = LoadProfile(folder / "nplayers.ini");
+    EXPECT_EQ(PlayersOf(*players, "alpha"), "2P alt");
+    EXPECT_EQ(PlayersOf(*players, "beta"), "Unknown");
+    EXPECT_EQ(CategoryOf(*LoadProfile(folder / "missing.ini"), "alpha"), "Unknown");
 }
 
 TEST(SupportFileReaders, MonochromeNamesCompareInLowerCaseOverTheWholeLine) {
