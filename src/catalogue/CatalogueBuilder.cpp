@@ -7,7 +7,7 @@
 #include "CatalogueFiles.h"
 #include "MachineLookups.h"
 #include "QuotedRecordFile.h"
-#include "TextCase.h"
+#include "TextFunctions.h"
 #include "XmlLineScanners.h"
 
 namespace coinlight {
@@ -31,30 +31,6 @@ constexpr std::uint64_t TagCode(std::string_view tag) {
         code |= static_cast<std::uint64_t>(static_cast<unsigned char>(tag[i])) << (8 * i);
     }
     return code;
-}
-
-bool Holds(std::string_view line, std::string_view text) {
-    return line.find(text) != std::string_view::npos;
-}
-
-/// The line with every TAB removed: a view of `raw` when the TABs are only in front, which
-/// is how MAME indents.
-std::string_view Untabbed(std::string_view raw, std::string& scratch) {
-    std::size_t start = 0;
-    while (start < raw.size() && raw[start] == '\t') {
-        ++start;
-    }
-    const std::string_view rest = raw.substr(start);
-    if (rest.find('\t') == std::string_view::npos) {
-        return rest;
-    }
-    scratch.clear();
-    for (const char c : rest) {
-        if (c != '\t') {
-            scratch.push_back(c);
-        }
-    }
-    return scratch;
 }
 
 /// `field` gets `value` as its first entry, or `value` after `separator` when `more`.
@@ -84,15 +60,10 @@ void SetDefault(std::string& field, std::string_view value) {
 
 } // namespace
 
-CatalogueWriters::CatalogueWriters(const std::filesystem::path& outputFolder)
-    : arcadeInfo(outputFolder / kArcadeInfo), biosFilter(outputFolder / kBiosFilter),
-      crcInfo(outputFolder / kCrcInfo), otherInfo(outputFolder / kOtherInfo),
-      arcadeBios(outputFolder / kArcadeBios), otherBios(outputFolder / kOtherBios) {}
-
 CatalogueBuilder::CatalogueBuilder(const MachineLists& lists, DeviceRomSource& devices,
                                    const ProfileDocument* catver, CatalogueWriters& writers,
                                    CatalogueProgress& progress)
-    : m_lists(lists), m_devices(devices), m_catver(catver), m_writers(writers),
+    : m_lists(lists), m_pending(devices), m_catver(catver), m_writers(writers),
       m_progress(progress) {}
 
 CatalogueCounts CatalogueBuilder::Counts() const {
@@ -111,12 +82,11 @@ void CatalogueBuilder::Run(BlockLineReader& machineXml) {
     try {
         Scan(machineXml);
     } catch (const CatalogueAbort&) {
-        SettleBeforeFailing();
+        // A failure that waited for the device list came earlier in the file: it wins.
+        WaitForDevices();
         throw;
     }
-    m_deviceRoms = &m_devices.Wait();
-    SettlePending();
-    m_counts.deviceRoms = m_deviceRoms->Size();
+    m_counts.deviceRoms = WaitForDevices().Size();
 }
 
 void CatalogueBuilder::Scan(BlockLineReader& machineXml) {
@@ -128,10 +98,10 @@ void CatalogueBuilder::Scan(BlockLineReader& machineXml) {
         }
         std::string_view head = raw.substr(start, kTagLength);
         if (head.find('\t') != std::string_view::npos) {
-            head = Untabbed(raw, m_untabbed).substr(0, kTagLength);
+            head = WithoutTabs(raw, m_untabbed).substr(0, kTagLength);
         }
         const auto line = [&] {
-            return Untabbed(raw, m_untabbed);
+            return WithoutTabs(raw, m_untabbed);
         };
         switch (TagCode(head)) {
         // Rule 1: the bulk of the file, passed over first.
@@ -205,53 +175,24 @@ void CatalogueBuilder::Scan(BlockLineReader& machineXml) {
     }
 }
 
-bool CatalogueBuilder::DevicesKnown() {
-    if (m_deviceRoms == nullptr && m_devices.Done()) {
-        m_deviceRoms = &m_devices.Wait();
-        SettlePending();
-    }
-    return m_deviceRoms != nullptr;
-}
-
-bool CatalogueBuilder::AnyDeviceRom(const PendingRefs& refs) const {
-    auto failure = refs.failures.begin();
-    std::size_t index = 0;
-    std::size_t start = 0;
-    for (;; ++index) {
-        if (failure != refs.failures.end() && failure->first == index) {
-            throw CatalogueAbort{failure->second};
-        }
-        const std::size_t end = refs.names.find('\n', start);
-        if (end == std::string::npos) {
-            return false;
-        }
-        if (m_deviceRoms->Contains(std::string_view(refs.names).substr(start, end - start))) {
-            return true;
-        }
-        start = end + 1;
-    }
-}
-
-void CatalogueBuilder::SettlePending() {
-    for (PendingRecord& record : m_pendingRecords) {
-        if (AnyDeviceRom(record.refs)) {
-            record.text.replace(record.deviceValueAt, 2, "Yes");
-        }
-        (record.other ? m_writers.otherInfo : m_writers.arcadeInfo).Write(record.text);
-    }
-    m_pendingRecords.clear();
-    if (AnyDeviceRom(m_pendingRefs)) {
+const NameList* CatalogueBuilder::DevicesKnown() {
+    bool currentHasOne = false;
+    const NameList* devices =
+        m_pending.Known(m_writers.arcadeInfo, m_writers.otherInfo, currentHasOne);
+    if (currentHasOne) {
         m_fields[F::DeviceRomsRequired] = "Yes";
     }
-    m_pendingRefs.Clear();
-    m_pendingNameCount = 0;
+    return devices;
 }
 
-void CatalogueBuilder::SettleBeforeFailing() {
-    if (m_deviceRoms == nullptr) {
-        m_deviceRoms = &m_devices.Wait();
-        SettlePending();
+const NameList& CatalogueBuilder::WaitForDevices() {
+    bool currentHasOne = false;
+    const NameList& devices =
+        m_pending.Wait(m_writers.arcadeInfo, m_writers.otherInfo, currentHasOne);
+    if (currentHasOne) {
+        m_fields[F::DeviceRomsRequired] = "Yes";
     }
+    return devices;
 }
 
 void CatalogueBuilder::SkipMachine(int location) {
@@ -355,21 +296,18 @@ void CatalogueBuilder::DeviceRef(std::string_view line) {
     if (m_fields[F::DeviceRomsRequired] == "Yes" || !Holds(line, "ref name=")) {
         return;
     }
-    if (DevicesKnown()) {
-        if (m_deviceRoms->Contains(Attribute(line, "device_ref name=", kHere))) {
+    if (const NameList* devices = DevicesKnown()) {
+        if (devices->Contains(Attribute(line, "device_ref name=", kHere))) {
             m_fields[F::DeviceRomsRequired] = "Yes";
         }
         return;
     }
     const XmlAttribute name = GetXMLAttribute(line, "device_ref name=");
     if (name.Failed()) {
-        m_pendingRefs.failures.emplace_back(
-            m_pendingNameCount,
-            RunTimeError{name.error,
-                         name.error == kErrorOverflow ? kOverflowText : kInvalidCallText, kHere});
+        m_pending.AddUnreadableReference(
+            {name.error, name.error == kErrorOverflow ? kOverflowText : kInvalidCallText, kHere});
     } else {
-        m_pendingRefs.names.append(name.value).push_back('\n');
-        ++m_pendingNameCount;
+        m_pending.AddReference(name.value);
     }
 }
 
@@ -448,16 +386,7 @@ void CatalogueBuilder::EndMachine() {
     FillDefaults();
     CountMachine();
 
-    m_record.clear();
-    AppendQuotedRecord(m_record, m_fields.values);
-    if (m_pendingRecords.empty() && m_pendingRefs.Empty()) {
-        (m_isOther ? m_writers.otherInfo : m_writers.arcadeInfo).Write(m_record);
-    } else {
-        m_pendingRecords.push_back(
-            {m_isOther, m_record, DeviceValueOffset(m_fields), std::move(m_pendingRefs)});
-        m_pendingRefs.Clear();
-        m_pendingNameCount = 0;
-    }
+    WriteInfoRecord();
     if (!m_fields.crcs.empty()) {
         m_record.clear();
         AppendQuotedRecord(m_record, std::array<std::string_view, 3>{
@@ -471,6 +400,16 @@ void CatalogueBuilder::EndMachine() {
         m_biosSets.clear();
     }
     ClearMachine();
+}
+
+void CatalogueBuilder::WriteInfoRecord() {
+    m_record.clear();
+    AppendQuotedRecord(m_record, m_fields.values);
+    if (m_pending.MustHold()) {
+        m_pending.Hold(m_isOther, m_record, DeviceValueOffset(m_fields));
+    } else {
+        (m_isOther ? m_writers.otherInfo : m_writers.arcadeInfo).Write(m_record);
+    }
 }
 
 void CatalogueBuilder::FillDefaults() {
@@ -532,8 +471,7 @@ void CatalogueBuilder::ClearMachine() {
     m_seenControl = false;
     m_seenInstance = false;
     m_seenSoftwareList = false;
-    m_pendingRefs.Clear();
-    m_pendingNameCount = 0;
+    m_pending.ClearCurrent();
 }
 
 } // namespace coinlight

@@ -7,53 +7,24 @@
 #include <string_view>
 
 #include "BlockLineReader.h"
+#include "CatalogueCounts.h"
 #include "CatalogueProgress.h"
+#include "CatalogueWriters.h"
 #include "DeviceRomSource.h"
 #include "MachineFields.h"
 #include "MachineLists.h"
+#include "PendingDeviceRoms.h"
 #include "ProfileTextBuilder.h"
 #include "RunTimeError.h"
-#include "core/AtomicFileWriter.h"
 #include "core/ProfileDocument.h"
 
 namespace coinlight {
-
-/// The files the second pass writes as it goes; they replace the old ones only when the
-/// whole run succeeded.
-struct CatalogueWriters {
-    explicit CatalogueWriters(const std::filesystem::path& outputFolder);
-
-    AtomicFileWriter arcadeInfo;
-    AtomicFileWriter biosFilter;
-    AtomicFileWriter crcInfo;
-    AtomicFileWriter otherInfo;
-    AtomicFileWriter arcadeBios;
-    AtomicFileWriter otherBios;
-};
-
-/// What one run wrote, for the progress labels and for maintainers.
-struct CatalogueCounts {
-    std::int32_t arcade = 0;
-    std::int32_t other = 0;
-    std::size_t unlisted = 0;
-    std::size_t biosSets = 0; // lines of biosfilter.txt
-    std::size_t crcRecords = 0;
-    std::size_t deviceRoms = 0;
-    std::size_t arcadeBiosLines = 0;
-    std::size_t otherBiosLines = 0;
-    std::size_t biosIniKeys = 0;
-    std::size_t softFilterSections = 0;
-};
 
 /// The second pass over `machine.xml`: a line scanner that decides by the first five
 /// characters of each line (TABs removed) and writes a machine's records when its
 /// `</machine>` line comes. It keeps the scanner's known habits: a skipped machine leaves
 /// its set type, BIOS and BIOS flag to the next one, and the first occurrence of a key in
 /// a line decides.
-///
-/// Whether a machine needs device ROMs is known only when the first pass is through. Until
-/// then the device names a machine refers to are kept, and its info records wait in order;
-/// they are settled and written as soon as the first pass is done.
 class CatalogueBuilder {
 public:
     CatalogueBuilder(const MachineLists& lists, DeviceRomSource& devices,
@@ -85,41 +56,16 @@ private:
     void FillDefaults();
     void CountMachine();
     void ClearMachine();
-    /// True once the first pass is through; settles what waited for it the first time.
-    bool DevicesKnown();
-    void SettlePending();
-    /// Before a failure is reported: one that came earlier in the file wins.
-    void SettleBeforeFailing();
+    /// The device list once the first pass is through, or nothing yet.
+    const NameList* DevicesKnown();
+    const NameList& WaitForDevices();
+    void WriteInfoRecord();
     /// Passes over raw lines up to the next one that holds `</mach`.
     void SkipMachine(int location);
     std::string_view Attribute(std::string_view line, std::string_view key, int location) const;
 
-    // The device references a machine made before the first pass was through: each name
-    // followed by a line feed, which no name can hold. A reference whose name could not be
-    // read fails only if its turn comes, that is when no earlier one named a device ROM.
-    struct PendingRefs {
-        std::string names;
-        std::vector<std::pair<std::size_t, RunTimeError>> failures; // after that many names
-        bool Empty() const { return names.empty() && failures.empty(); }
-        void Clear() {
-            names.clear();
-            failures.clear();
-        }
-    };
-    struct PendingRecord {
-        bool other = false;
-        std::string text;
-        std::size_t deviceValueAt = 0; // where "No" stands for Device ROM(s) Required
-        PendingRefs refs;
-    };
-    bool AnyDeviceRom(const PendingRefs& refs) const;
-
     const MachineLists& m_lists;
-    DeviceRomSource& m_devices;
-    const NameList* m_deviceRoms = nullptr;
-    PendingRefs m_pendingRefs;
-    std::size_t m_pendingNameCount = 0;
-    std::vector<PendingRecord> m_pendingRecords;
+    PendingDeviceRoms m_pending;
     const ProfileDocument* m_catver;
     CatalogueWriters& m_writers;
     CatalogueProgress& m_progress;

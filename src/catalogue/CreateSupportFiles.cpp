@@ -67,8 +67,7 @@ MachineLists ReadListsOrAbort(const std::filesystem::path& file) {
 }
 
 void CheckWriters(CatalogueWriters& writers) {
-    for (AtomicFileWriter* writer : {&writers.arcadeInfo, &writers.biosFilter, &writers.crcInfo,
-                                     &writers.otherInfo, &writers.arcadeBios, &writers.otherBios}) {
+    for (AtomicFileWriter* writer : writers.All()) {
         if (!writer->IsOpen()) {
             Abort(kErrorFileAccess, writer->Error(), kLocationOpenOutputs);
         }
@@ -96,8 +95,7 @@ void StoreCatalogue(CatalogueWriters& writers, const CatalogueBuilder& builder,
     if (builder.SoftFilterIni().Empty()) {
         Abort(kErrorFileNotFound, kFileNotFoundText, kLocationSoftFilter);
     }
-    for (AtomicFileWriter* writer : {&writers.arcadeInfo, &writers.biosFilter, &writers.crcInfo,
-                                     &writers.otherInfo, &writers.arcadeBios, &writers.otherBios}) {
+    for (AtomicFileWriter* writer : writers.All()) {
         CommitOrAbort(*writer);
     }
     if (!builder.BiosIni().Empty()) {

@@ -1,6 +1,6 @@
 #include "MonochromeList.h"
 
-#include "TextCase.h"
+#include "TextFunctions.h"
 #include "core/TextFile.h"
 
 namespace coinlight {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "TextCase.h"
+#include "TextFunctions.h"
 #include "core/ProfileDocument.h"
 
 namespace coinlight {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue/TextCase.h"
+#include "catalogue/TextFunctions.h"
 
 using namespace coinlight;
 

@@ -2,8 +2,11 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace coinlight {
+
+// The text functions of the classic run time that the catalogue's rules are written in.
 
 /// "Words capitalised": the first character of each word upper case, every other letter
 /// lower case. Words are separated by blank, TAB, CR, LF, VT, FF or NUL, so
@@ -23,6 +26,17 @@ std::string_view TrimLeadingSpaces(std::string_view text);
 /// `ignoreCase` compares ASCII letters without case.
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with,
                        bool ignoreCase = false);
+
+/// The classic Split: an empty text has no pieces, "a,,b" has three.
+std::vector<std::string> SplitPieces(std::string_view text, char separator);
+
+inline bool Holds(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+/// The line with every TAB removed: a view of `line` when the TABs stand only in front,
+/// which is how MAME indents, else a copy in `scratch`.
+std::string_view WithoutTabs(std::string_view line, std::string& scratch);
 
 /// The whole text in upper or lower case (ASCII letters).
 std::string UpperCase(std::string_view text);

@@ -1,4 +1,4 @@
-#include "TextCase.h"
+#include "TextFunctions.h"
 
 namespace coinlight {
 
@@ -97,6 +97,39 @@ std::string LowerCase(std::string_view text) {
         c = Lower(c);
     }
     return result;
+}
+
+std::vector<std::string> SplitPieces(std::string_view text, char separator) {
+    std::vector<std::string> pieces;
+    if (text.empty()) {
+        return pieces;
+    }
+    for (std::size_t start = 0;;) {
+        const std::size_t end = text.find(separator, start);
+        pieces.emplace_back(text.substr(start, end - start));
+        if (end == std::string_view::npos) {
+            return pieces;
+        }
+        start = end + 1;
+    }
+}
+
+std::string_view WithoutTabs(std::string_view line, std::string& scratch) {
+    std::size_t start = 0;
+    while (start < line.size() && line[start] == '\t') {
+        ++start;
+    }
+    const std::string_view rest = line.substr(start);
+    if (rest.find('\t') == std::string_view::npos) {
+        return rest;
+    }
+    scratch.clear();
+    for (const char c : rest) {
+        if (c != '\t') {
+            scratch.push_back(c);
+        }
+    }
+    return scratch;
 }
 
 } // namespace coinlight
