@@ -33,6 +33,18 @@ constexpr std::uint64_t TagCode(std::string_view tag) {
     return code;
 }
 
+/// The first five characters of the line once its TABs are gone.
+std::string_view TagOf(std::string_view raw, std::string& scratch) {
+    const std::size_t start = raw.find_first_not_of('\t');
+    if (start == std::string_view::npos) {
+        return {};
+    }
+    const std::string_view head = raw.substr(start, kTagLength);
+    return head.find('\t') == std::string_view::npos
+               ? head
+               : WithoutTabs(raw, scratch).substr(0, kTagLength);
+}
+
 /// `field` gets `value` as its first entry, or `value` after `separator` when `more`.
 void AddEntry(std::string& field, bool more, std::string_view separator, std::string_view value) {
     if (more) {
@@ -92,18 +104,10 @@ void CatalogueBuilder::Run(BlockLineReader& machineXml) {
 void CatalogueBuilder::Scan(BlockLineReader& machineXml) {
     std::string_view raw;
     while (machineXml.Next(raw)) {
-        std::size_t start = 0;
-        while (start < raw.size() && raw[start] == '\t') {
-            ++start;
-        }
-        std::string_view head = raw.substr(start, kTagLength);
-        if (head.find('\t') != std::string_view::npos) {
-            head = WithoutTabs(raw, m_untabbed).substr(0, kTagLength);
-        }
         const auto line = [&] {
             return WithoutTabs(raw, m_untabbed);
         };
-        switch (TagCode(head)) {
+        switch (TagCode(TagOf(raw, m_untabbed))) {
         // Rule 1: the bulk of the file, passed over first.
         case TagCode("<samp"):
         case TagCode("<chip"):

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,12 +8,10 @@
 #include "CatalogueCounts.h"
 #include "CatalogueProgress.h"
 #include "CatalogueWriters.h"
-#include "DeviceRomSource.h"
 #include "MachineFields.h"
 #include "MachineLists.h"
 #include "PendingDeviceRoms.h"
 #include "ProfileTextBuilder.h"
-#include "RunTimeError.h"
 #include "core/ProfileDocument.h"
 
 namespace coinlight {

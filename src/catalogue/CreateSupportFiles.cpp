@@ -108,6 +108,28 @@ void StoreCatalogue(CatalogueWriters& writers, const CatalogueBuilder& builder,
     }
 }
 
+/// Steps 5 to 12, while the device pass of step 4 runs on its own thread.
+CatalogueCounts BuildCatalogue(const CatalogueSources& sources, DeviceRomSource& devices,
+                               CatalogueProgress& progress) {
+    const MachineLists lists = ReadListsOrAbort(sources.listsTxt);
+    progress.ShowCountsHeading("Other Machines:");
+
+    CatalogueWriters writers(sources.outputFolder);
+    CheckWriters(writers);
+    std::shared_ptr<const ProfileDocument> catver;
+    if (sources.catverIni) {
+        catver = LoadProfile(*sources.catverIni);
+    }
+
+    BlockLineReader machinePass(sources.machineXml);
+    OpenOrAbort(machinePass, kLocationMachinePass);
+    machinePass.OnBlockRead([&progress] { progress.Pump(); });
+    CatalogueBuilder builder(lists, devices, catver.get(), writers, progress);
+    builder.Run(machinePass);
+    StoreCatalogue(writers, builder, sources.outputFolder);
+    return builder.Counts();
+}
+
 CatalogueOutcome FailedOutcome(const RunTimeError& error) {
     std::string text = HandlerMessage(kRoutine, error);
     if (error.number == kErrorFileNotFound) {
@@ -132,35 +154,14 @@ CatalogueSources CatalogueSourcesIn(const DataLayout& data, bool hasCatver) {
 SupportFilesResult CreateSupportFiles(const CatalogueSources& sources,
                                       CatalogueProgress& progress) {
     SupportFilesResult result;
-    const auto pump = [&progress] {
-        progress.Pump();
-    };
     try {
         progress.ShowStep("Creating Coinlight assist files...");
         KeepLastRun(sources.outputFolder);
-
-        // The device pass runs beside the steps that follow; whatever fails, its failure
-        // came first in the file.
         DeviceRomScanner devices(sources.machineXml);
-        CatalogueWriters writers(sources.outputFolder);
         try {
-            const MachineLists lists = ReadListsOrAbort(sources.listsTxt);
-            progress.ShowCountsHeading("Other Machines:");
-
-            CheckWriters(writers);
-            std::shared_ptr<const ProfileDocument> catver;
-            if (sources.catverIni) {
-                catver = LoadProfile(*sources.catverIni);
-            }
-
-            BlockLineReader machinePass(sources.machineXml);
-            OpenOrAbort(machinePass, kLocationMachinePass);
-            machinePass.OnBlockRead(pump);
-            CatalogueBuilder builder(lists, devices, catver.get(), writers, progress);
-            builder.Run(machinePass);
-            StoreCatalogue(writers, builder, sources.outputFolder);
-            result.counts = builder.Counts();
+            result.counts = BuildCatalogue(sources, devices, progress);
         } catch (const CatalogueAbort&) {
+            // The device pass comes first in the file: its failure is the one to report.
             devices.Wait();
             throw;
         }

@@ -12,6 +12,10 @@
 
 namespace coinlight {
 
+/// The field enumerations: MachineField, SoftwareField, CrcField.
+template <class T>
+concept FieldEnum = std::is_enum_v<T>;
+
 /// One record of a quoted record file, read-only and compact: the field texts side by side
 /// in one string, so that a list of 45,000 machines costs one allocation a row.
 template <std::size_t FieldCount> class QuotedRecord {
@@ -37,9 +41,9 @@ public:
         const std::uint32_t begin = column == 0 ? 0 : m_ends[column - 1];
         return std::string_view(m_text).substr(begin, m_ends[column] - begin);
     }
-    template <class Enum>
-    requires std::is_enum_v<Enum> std::string_view Field(Enum field)
-    const { return Field(static_cast<std::size_t>(field)); }
+    std::string_view Field(FieldEnum auto field) const {
+        return Field(static_cast<std::size_t>(field));
+    }
 
     bool operator==(const QuotedRecord&) const = default;
 

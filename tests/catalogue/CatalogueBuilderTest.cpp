@@ -110,3 +110,12 @@ TEST(CatalogueBuilder, AnEarlierFailureWinsOverALaterOne) {
         EXPECT_EQ(built.error->location, 808);
     }
 }
+
+TEST(CatalogueBuilder, TagsAreReadWithTheirTabsRemovedAndBlanksHideThem) {
+    const std::string xml = "<mame>\n" + Machine("a", "\t\t<ye\tar>19\t90</year>\n") +
+                            Machine("b", "    <year>1991</year>\n") + "</mame>\n";
+    const auto records = ParseMachineRecords(Build(xml, false).arcade);
+    ASSERT_EQ(records.records.size(), 2u);
+    EXPECT_EQ(records.records[0].Field(MachineField::Year), "1990");
+    EXPECT_EQ(records.records[1].Field(MachineField::Year), "Unknown");
+}
