@@ -136,9 +136,3 @@ TEST(SoftwareCatalogue, KillSoftsOtherDeletesOneMachineOrAll) {
     EXPECT_FALSE(std::filesystem::exists(folder / "a2600.txt"));
     EXPECT_TRUE(std::filesystem::exists(folder / "notes.dat"));
 }
-
-TEST(SoftwareCatalogue, SoftwareListsFieldSplitsAtSemicolons) {
-    EXPECT_EQ(SoftwareListsOf("N/A"), std::vector<std::string>{});
-    EXPECT_EQ(SoftwareListsOf("a2600;a2600_cass"),
-              (std::vector<std::string>{"a2600", "a2600_cass"}));
-}

@@ -2,27 +2,12 @@
 #include <variant>
 
 #include "catalogue/BlockLineReader.h"
-#include "catalogue/MachineLookups.h"
 #include "catalogue/MakeLists.h"
 #include "catalogue/MonochromeList.h"
-#include "core/ProfileFile.h"
 #include "support/TestFiles.h"
 
 using namespace coinlight;
 using namespace coinlight::test;
-
-TEST(SupportFileReaders, CatverAndNPlayersDefaultToUnknown) {
-    TempFolder folder;
-    WriteFile(folder / "catver.ini", "[Category]\nalpha = Maze\n[VerAdded]\nbeta=0.1\n");
-    WriteFile(folder / "nplayers.ini", "[NPlayers]\r\nALPHA=2P alt\r\n");
-    const auto catver = LoadProfile(folder / "catver.ini");
-    EXPECT_EQ(CategoryOf(*catver, "alpha"), "Maze");
-    EXPECT_EQ(CategoryOf(*catver, "beta"), "Unknown");
-    const auto players = LoadProfile(folder / "nplayers.ini");
-    EXPECT_EQ(PlayersOf(*players, "alpha"), "2P alt");
-    EXPECT_EQ(PlayersOf(*players, "beta"), "Unknown");
-    EXPECT_EQ(CategoryOf(*LoadProfile(folder / "missing.ini"), "alpha"), "Unknown");
-}
 
 TEST(SupportFileReaders, MonochromeNamesCompareInLowerCaseOverTheWholeLine) {
     TempFolder folder;
