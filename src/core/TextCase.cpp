@@ -22,8 +22,12 @@ std::string ProperCase(std::string_view text) {
     std::string proper(text);
     bool wordStart = true;
     for (char& c : proper) {
-        c = wordStart ? UpperAscii(c) : LowerAscii(c);
-        wordStart = c == ' ' || c == '\t';
+        const bool separator =
+            c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f' || c == '\0';
+        if (!separator) {
+            c = wordStart ? UpperAscii(c) : LowerAscii(c);
+        }
+        wordStart = separator;
     }
     return proper;
 }

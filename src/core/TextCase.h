@@ -18,7 +18,9 @@ inline char UpperAscii(char c) {
 
 std::string ToLowerAscii(std::string_view text);
 std::string ToUpperAscii(std::string_view text);
-/// The first letter of every blank-separated word upper case, every other letter lower.
+/// "Words capitalised": the first character of each word upper case, every other letter
+/// lower case. Words are separated by blank, TAB, CR, LF, VT, FF or NUL, so
+/// "blues brothers, THE (europe)" gives "Blues Brothers, The (europe)".
 std::string ProperCase(std::string_view text);
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix);

@@ -20,5 +20,6 @@ int ToolUsageError(const ToolCommand& command);
 
 std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
+std::vector<ToolCommand> CatalogueCommands();
 
 } // namespace coinlight

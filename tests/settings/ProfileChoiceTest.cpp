@@ -51,11 +51,12 @@ TEST(MonochromeList, TheFileReplacesTheBuiltInList) {
     EXPECT_TRUE(builtIn.Contains("wolfpack"));
     EXPECT_FALSE(builtIn.Contains("pacman"));
 
-    WriteFile(data.Support() / "monochrome.ini", "PacMan\r\nmsPacman\n");
+    WriteFile(data.Support() / "monochrome.ini", "PacMan\r\nmsPacman\nbzone \r\n");
     const MonochromeList fromFile = MonochromeList::Load(data);
     EXPECT_TRUE(fromFile.Contains("pacman"));
     EXPECT_TRUE(fromFile.Contains("MSPACMAN"));
     EXPECT_FALSE(fromFile.Contains("pong"));
+    EXPECT_FALSE(fromFile.Contains("bzone")) << "the whole line is the name";
 }
 
 TEST(ProfileChoice, TheMachinesOwnProfileWinsOverItsClass) {

@@ -1,5 +1,9 @@
 #include "MainWindowFixture.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+
 namespace coinlight::test {
 
 MainWindowFixture::MainWindowFixture() {
@@ -13,6 +17,9 @@ MainWindowFixture::MainWindowFixture() {
     for (const auto& entry : std::filesystem::directory_iterator(catalogue)) {
         std::filesystem::copy_file(entry.path(), Output() / entry.path().filename());
     }
+    m_dialogWatch.setInterval(20);
+    QObject::connect(&m_dialogWatch, &QTimer::timeout, [this] { WatchForDialogs(); });
+    m_dialogWatch.start();
     // The support files of the test's own: the shipped ones must not start a rebuild.
     WriteFile(m_context.data.Support() / "lists.txt", "Arcade\r\n|pacman|\r\nOther\r\n|a500|\r\n");
 }
@@ -26,8 +33,48 @@ void MainWindowFixture::WriteOptions(const std::string& extraSections) {
                   "\r\nMame.exe Size=" + std::to_string(mameSize) +
                   "\r\n\r\n[Core Search Path Options]\r\nMAME=" + m_mame.folder.string() +
                   "\r\nArcade ROMs=" + Roms().string() + "\r\nOther ROMs=" + Roms().string() +
-                  "\r\nIni=" + m_context.data.Temp().string() +
-                  "\r\n\r\n" + extraSections);
+                  "\r\nIni=" + m_context.data.Temp().string() + "\r\n\r\n" + extraSections);
+}
+
+void MainWindowFixture::WatchForDialogs() {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible()) {
+        return;
+    }
+    ++m_dialogsOpened;
+    if (m_dialogAnswers.empty()) {
+        ADD_FAILURE() << "a dialog no test expected: " << dialog->objectName().toStdString();
+        dialog->reject();
+        return;
+    }
+    auto act = std::move(m_dialogAnswers.front());
+    m_dialogAnswers.pop_front();
+    act(*dialog);
+}
+
+void MainWindowFixture::AnswerOptionsWithFakeMame() {
+    AnswerDialog([this](QDialog& dialog) {
+        const auto set = [&dialog](const char* name, const std::string& text) {
+            auto* field = dialog.findChild<QLineEdit*>(QString::fromLatin1(name));
+            ASSERT_NE(field, nullptr) << name;
+            field->setText(QString::fromStdString(text));
+        };
+        set("txtMAMEPath", (m_mame.folder / m_mame.executable).string());
+        set("txtArcadeROMPath", Roms().string());
+        set("txtMESSROMPath", Roms().string());
+        for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
+                                 "txtPluginsPath", "txtLanguagePath"}) {
+            const auto folder = m_folder / "mame-data" / name;
+            std::filesystem::create_directories(folder);
+            set(name, folder.string());
+        }
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+        if (dialog.isVisible()) {
+            ADD_FAILURE() << "Options refused: " << Told();
+            dialog.reject();
+        }
+    });
 }
 
 bool MainWindowFixture::Load() {
@@ -35,6 +82,12 @@ bool MainWindowFixture::Load() {
         WriteOptions();
     }
     m_form = std::make_unique<frmMain>(m_context, m_prompter);
+    // A packaged MAME of the machine the tests run on must not fill the dialog.
+    MameLocations nowhere;
+    nowhere.distributionData = m_folder / "no-share";
+    nowhere.home = m_folder / "no-home";
+    nowhere.searchPath = "";
+    m_form->SetMameLocations(nowhere);
     return m_form->FormLoad();
 }
 

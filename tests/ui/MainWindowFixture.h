@@ -1,9 +1,13 @@
 #pragma once
 
+#include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
+#include <QDialog>
 #include <QLabel>
+#include <QTimer>
 
 #include "core/FileTests.h"
 #include "support/ScriptedPrompter.h"
@@ -26,6 +30,15 @@ protected:
     std::filesystem::path Output() const { return m_context.data.Output(); }
 
     bool Load();
+
+    /// The next modal dialog (Options, as a rule) is worked by `act` instead of a person.
+    /// A dialog no test asked for is cancelled and fails the test, so nothing waits for ever.
+    void AnswerDialog(std::function<void(QDialog&)> act) {
+        m_dialogAnswers.push_back(std::move(act));
+    }
+    /// Fills the Options dialog as a first user would and presses OK.
+    void AnswerOptionsWithFakeMame();
+    int DialogsOpened() const { return m_dialogsOpened; }
     /// What the user was told, for the message of a failed assertion.
     std::string Told() const { return m_prompter.Texts().join(" | ").toStdString(); }
     frmMain& Form() { return *m_form; }
@@ -40,6 +53,13 @@ protected:
     ScriptedPrompter m_prompter;
     FakeMame m_mame;
     std::unique_ptr<frmMain> m_form;
+
+private:
+    void WatchForDialogs();
+
+    std::deque<std::function<void(QDialog&)>> m_dialogAnswers;
+    QTimer m_dialogWatch;
+    int m_dialogsOpened = 0;
 };
 
 } // namespace coinlight::test

@@ -7,10 +7,17 @@ namespace {
 const char* const kProblem =
     "Problem in options.ini file.  Coinlight will open Options so you can correct this.";
 
-class MainLoad : public MainWindowFixture {};
+class MainLoad : public MainWindowFixture {
+protected:
+    /// The first-run path opens Options; these tests leave it at once.
+    void CancelOptions() {
+        AnswerDialog([](QDialog& dialog) { dialog.reject(); });
+    }
+};
 
 TEST_F(MainLoad, TheFolderTreeIsMadeBeforeAnythingElse) {
     std::filesystem::remove_all(m_context.data.root);
+    CancelOptions();
     Load();
     for (const auto& folder : {m_context.data.Settings(), m_context.data.Output(),
                                m_context.data.Software(), m_context.data.Temp()}) {
@@ -21,7 +28,10 @@ TEST_F(MainLoad, TheFolderTreeIsMadeBeforeAnythingElse) {
 
 TEST_F(MainLoad, ABadValueCostsTheFileAndSendsTheUserToOptions) {
     WriteOptions("[View]\r\nWindow State=maximised\r\n");
-    Load();
+    CancelOptions();
+    EXPECT_FALSE(Load());
+    EXPECT_EQ(DialogsOpened(), 1) << "Options opened after the message";
+    EXPECT_TRUE(m_context.flags.closeRequested) << "a cancelled first run ends the program";
     ASSERT_FALSE(m_prompter.Prompts().empty());
     EXPECT_EQ(m_prompter.Prompts()[0].title, "Coinlight");
     EXPECT_EQ(m_prompter.Prompts()[0].icon, PromptIcon::None);
@@ -34,6 +44,7 @@ TEST_F(MainLoad, ABadValueCostsTheFileAndSendsTheUserToOptions) {
 TEST_F(MainLoad, AStoredMameSizeOfZeroTakesTheSameWay) {
     WriteOptions();
     WriteProfileValue(m_context.data.OptionsIni(), "MAME", "Mame.exe Size", "0");
+    CancelOptions();
     Load();
     ASSERT_FALSE(m_prompter.Prompts().empty());
     EXPECT_EQ(m_prompter.Texts()[0], kProblem);
@@ -54,6 +65,7 @@ TEST_F(MainLoad, AnOldFileIsRecreatedOnlyWithTheUsersConsent) {
 
     m_context.flags = {};
     m_prompter.Queue(PromptAnswer::Yes);
+    CancelOptions();
     Load();
     EXPECT_FALSE(std::filesystem::exists(Output() / "machine.xml")) << "first-run path";
 }
