@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Prompter.h"
-
 #include "core/UserMessage.h"
 
 namespace coinlight {

@@ -44,10 +44,10 @@ void frmMain::ConnectControls() {
     connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
-    for (auto [box, which] : {std::pair{c.chkAutoSave, StartBox::AutoSave},
-                              std::pair{c.chkRecord, StartBox::Record},
-                              std::pair{c.chkPlayback, StartBox::Playback},
-                              std::pair{c.chkAutoRun, StartBox::AutoRun}}) {
+    for (auto [box, which] :
+         {std::pair{c.chkAutoSave, StartBox::AutoSave}, std::pair{c.chkRecord, StartBox::Record},
+          std::pair{c.chkPlayback, StartBox::Playback},
+          std::pair{c.chkAutoRun, StartBox::AutoRun}}) {
         connect(box, &QCheckBox::toggled, this,
                 [this, which = which](bool ticked) { StartBoxClicked(which, ticked); });
     }

@@ -81,6 +81,7 @@ private:
     // The load, step by step
     void CentreOnScreen();
     bool PrepareFolders();
+    void InstallMissingSupportFiles();
     bool LoadOptions();
     bool ReadBranch(bool& startOver);
     bool FirstRunBranch();
@@ -88,8 +89,13 @@ private:
     bool ShowOptionsAtFirstRun();
     bool CheckSupportChanges();
     bool RebuildCatalogue(bool newMame);
+    bool RebuildFromLists();
+    bool CaptureMameLists();
+    bool CreateCatalogueFiles();
+    bool ShowCatalogueOutcome(const struct CatalogueOutcome& outcome);
     bool MergeCategories();
     bool PurgeAllFavorites();
+    void PurgeFavoritesOf(const std::string& word);
     bool RegenerateIfMissing();
     void WriteSupportSizes();
     void BuildListColumns();
@@ -140,6 +146,7 @@ private:
     void EmptyTempFolder();
     void UnloadAllForms();
     frmSplash& Splash();
+    frmSplash* SplashIfUp() const;
     void Pump();
 
     AppContext& m_context;

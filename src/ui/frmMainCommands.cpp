@@ -1,11 +1,12 @@
 // The commands that open the Options dialog, write mame.ini and start the emulator.
+#include <QApplication>
+
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "UserMessagePrompt.h"
-#include "frmMain.h"
-
 #include "core/CommandRunner.h"
 #include "core/FileTests.h"
+#include "frmMain.h"
 #include "launch/ArcadeLaunch.h"
 #include "launch/LaunchAftermath.h"
 #include "options/frmOptions.h"
@@ -13,11 +14,11 @@
 #include "settings/MameIniPreview.h"
 #include "settings/PathList.h"
 
-#include <QApplication>
-
 namespace coinlight {
 
-void frmMain::Options() { OpenOptions(false); }
+void frmMain::Options() {
+    OpenOptions(false);
+}
 
 bool frmMain::OpenOptions(bool firstRun) {
     OptionsRequest request;
@@ -39,7 +40,8 @@ bool frmMain::OpenOptions(bool firstRun) {
     if (outcome.lookChanged) {
         SetLinksOrButtons();
     }
-    const bool otherChanged = before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
+    const bool otherChanged =
+        before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
     if (outcome.filtersChanged || outcome.pathsChanged) {
         // A filter touches both families: the one not on show is reloaded first.
         m_refreshBothFamilies = true;
@@ -80,10 +82,9 @@ StartBoxes frmMain::CurrentStartBoxes() const {
 
 void frmMain::SetStartBoxes(const StartBoxes& boxes) {
     const MainControls& c = m_controls;
-    for (auto [box, ticked] : {std::pair{c.chkAutoSave, boxes.autoSave},
-                               std::pair{c.chkRecord, boxes.record},
-                               std::pair{c.chkPlayback, boxes.playback},
-                               std::pair{c.chkAutoRun, boxes.autoRun}}) {
+    for (auto [box, ticked] :
+         {std::pair{c.chkAutoSave, boxes.autoSave}, std::pair{c.chkRecord, boxes.record},
+          std::pair{c.chkPlayback, boxes.playback}, std::pair{c.chkAutoRun, boxes.autoRun}}) {
         const QSignalBlocker quiet(box);
         box->setChecked(ticked);
     }
@@ -215,21 +216,22 @@ void frmMain::PlayOther() {
 }
 
 void frmMain::ShowStandardOutput(const std::string& text) {
-    m_controls.lblScroll->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-                                      .toUpper()
-                                      .simplified());
+    m_controls.lblScroll->setText(
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUpper().simplified());
     m_controls.lblScroll->setToolTip(QStringLiteral("MAME Standard Output"));
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
     m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
-    m_controls.rtfVerify->setPlainText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    m_controls.rtfVerify->setPlainText(
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
     ShowPage(m_controls.fraVerify);
 }
 
 void frmMain::Find() {
-    const bool mameIniRole = m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
-                             m_controls.lblBLinks[LinkFind]->text().contains(QStringLiteral(">MAME.Ini<"));
+    const bool mameIniRole =
+        m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
+        m_controls.lblBLinks[LinkFind]->text().contains(QStringLiteral(">MAME.Ini<"));
     if (!mameIniRole) {
         return; // the other roles of this command come with their reports
     }

@@ -11,10 +11,10 @@
 #include "core/OptionsIni.h"
 #include "core/PreferenceKeys.h"
 #include "core/ProfileFile.h"
+#include "core/TextFile.h"
 #include "core/Version.h"
 #include "frmMain.h"
 #include "frmSplash.h"
-#include "core/TextFile.h"
 #include "lists/ListColumns.h"
 #include "settings/MameIniBase.h"
 
@@ -87,9 +87,14 @@ bool frmMain::PrepareFolders() {
         FatalLoadError(QString::fromStdString(*problem), 9);
         return false;
     }
-    InstallSupportFiles(FindDistributionSupport(m_context.appFolder), m_context.data);
     m_context.markers = ReadMarkerFlags(m_context.data);
     return true;
+}
+
+void frmMain::InstallMissingSupportFiles() {
+    // Not before the user has said where MAME is: a cancelled first start leaves only folders.
+    InstallSupportFiles(FindDistributionSupport(m_context.appFolder), m_context.data);
+    m_context.facts.hasCatver = FileExists(m_context.data.Support() / "catver.ini");
 }
 
 void frmMain::BuildListColumns() {
@@ -145,6 +150,7 @@ bool frmMain::ReadBranch(bool& startOver) {
         return true;
     }
     ResetHiddenSortKeys();
+    InstallMissingSupportFiles();
     if (preferences.view.windowState == 2) {
         setWindowState(Qt::WindowMaximized);
     }
@@ -197,6 +203,7 @@ bool frmMain::FirstRunBranch() {
     if (m_context.flags.closeRequested) {
         return false;
     }
+    InstallMissingSupportFiles();
     const SearchPathPreferences& paths = m_context.preferences.searchPaths;
     m_currentMameSize = static_cast<long long>(
         FileSize(std::filesystem::path(paths.mame) / m_context.preferences.mame.executable)
@@ -225,7 +232,7 @@ bool frmMain::CheckSupportChanges() {
             preferences.miscellaneous.listsTxtSize == 0) {
             Splash().show();
             Splash().SetMessage(QStringLiteral("Different lists.txt detected!"));
-            const bool rebuilt = RebuildCatalogue(false);
+            const bool rebuilt = RebuildFromLists();
             preferences.miscellaneous.listsTxtSize = static_cast<long long>(*lists);
             return rebuilt;
         }
@@ -305,10 +312,11 @@ bool frmMain::LoadAllLists() {
 
 void frmMain::LoadBiosTables() {
     // Element 0 is the default choice; element n the n-th BIOS line of the family.
-    for (auto [table, file] : {std::pair{&m_arcadeBios, "arcadebios.txt"},
-                               std::pair{&m_otherBios, "otherbios.txt"}}) {
+    for (auto [table, file] :
+         {std::pair{&m_arcadeBios, "arcadebios.txt"}, std::pair{&m_otherBios, "otherbios.txt"}}) {
         *table = {"Default"};
-        for (auto& line : ReadTextLines(m_context.data.Output() / file).value_or(std::vector<std::string>{})) {
+        for (auto& line :
+             ReadTextLines(m_context.data.Output() / file).value_or(std::vector<std::string>{})) {
             table->push_back(std::move(line));
         }
     }

@@ -78,7 +78,7 @@ void MainWindowFixture::AnswerOptionsWithFakeMame() {
 }
 
 bool MainWindowFixture::Load() {
-    if (!FileExists(m_context.data.OptionsIni())) {
+    if (m_writeOptionsOnLoad && !FileExists(m_context.data.OptionsIni())) {
         WriteOptions();
     }
     m_form = std::make_unique<frmMain>(m_context, m_prompter);

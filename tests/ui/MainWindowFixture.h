@@ -53,6 +53,7 @@ protected:
     ScriptedPrompter m_prompter;
     FakeMame m_mame;
     std::unique_ptr<frmMain> m_form;
+    bool m_writeOptionsOnLoad = true; // a start with preferences, unless a test says not
 
 private:
     void WatchForDialogs();
