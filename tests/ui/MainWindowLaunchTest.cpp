@@ -1,0 +1,132 @@
+// Starting arcade machines from the main window, against the fake MAME and, once, the real one.
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTextBrowser>
+
+#include "MainWindowFixture.h"
+#include "core/CommandLine.h"
+#include "core/ProfileFile.h"
+#include "core/TextFile.h"
+
+namespace coinlight::test {
+namespace {
+
+class MainWindowLaunch : public MainWindowFixture {
+protected:
+    MainWindowLaunch() {
+        AddRom("pacman");
+        AddRom("galaga");
+    }
+
+    void Select(MachineListView& list, const std::string& machine) {
+        list.SelectRow(list.Model().RowOfShortName(machine));
+    }
+
+    std::string Launches() const { return ReadFile(m_mame.Launches()); }
+    std::filesystem::path Inp(const std::string& machine) const {
+        return m_folder / "inp" / (machine + ".inp");
+    }
+};
+
+TEST_F(MainWindowLaunch, AStartRunsTheEmulatorAndShowsWhatItPrinted) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().ViewAvailableArcade();
+    Select(*Controls().lvAvailable, "pacman");
+    std::filesystem::remove(m_mame.Launches());
+    Form().PlayArcade();
+
+    const std::string temp = m_context.data.Temp().string();
+    const std::string expected = QuotePath((m_mame.folder / "mame").string()) + " -inipath " +
+                                 QuotePath(temp) + " pacman > " + QuotePath(temp + "/results.txt") +
+                                 " 2> " + QuotePath(temp + "/error.txt");
+    EXPECT_EQ(ReadFile(Output() / "lastrun.txt"), expected + "\r\n");
+    EXPECT_EQ(Launches(), m_mame.folder.string() + "\t-inipath\t" + temp + "\tpacman\n")
+        << "the emulator ran in its own folder with the ini folder named";
+    EXPECT_EQ(Controls().lblScroll->text(), "FAKE-MAME: EMULATING PACMAN");
+    EXPECT_EQ(Controls().lblScroll->toolTip(), "MAME Standard Output");
+    EXPECT_EQ(Controls().fraVerify->title(), "MAME Error Output");
+    EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraVerify);
+    EXPECT_TRUE(Controls().rtfVerify->toPlainText().contains("this is not MAME"));
+    EXPECT_FALSE(FileExists(m_context.data.Temp() / "results.txt"));
+    EXPECT_FALSE(FileExists(m_context.data.Temp() / "error.txt"));
+    EXPECT_FALSE(Form().isHidden()) << "the window is back";
+    Form().ReturnList1();
+    EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList);
+}
+
+TEST_F(MainWindowLaunch, OtherCommandsOfTheMachinesProfileFollowTheName) {
+    WriteFile(m_context.data.Settings() / "galaga.cfg",
+              "[Miscellaneous]\r\nOther Commands=-Joystick_Map  4   -X\r\n");
+    ASSERT_TRUE(Load()) << Told();
+    Select(*Controls().lvAll, "galaga");
+    Form().PlayArcade();
+    const std::string line = ReadFile(Output() / "lastrun.txt");
+    EXPECT_NE(line.find(" galaga -joystick_map 4  -x > "), std::string::npos)
+        << line << ": lower-cased, and each double blank folded once";
+}
+
+TEST_F(MainWindowLaunch, UnavailableMachinesAndMissingRecordingsDoNotStart) {
+    ASSERT_TRUE(Load()) << Told();
+    std::filesystem::remove(m_mame.Launches());
+    Select(*Controls().lvAll, "mspacman");
+    Form().PlayArcade();
+    ASSERT_FALSE(m_prompter.Prompts().empty());
+    EXPECT_EQ(m_prompter.Prompts().back().title, "Start");
+    EXPECT_EQ(m_prompter.Texts().back(), "This ROM is unavailable.");
+
+    WriteOptions("[Core Output Directory Options]\r\nInput=" + (m_folder / "inp").string() +
+                 "\r\n");
+    ASSERT_TRUE(Load()) << Told();
+    Select(*Controls().lvAll, "pacman");
+    Controls().chkPlayback->setChecked(true);
+    Form().PlayArcade();
+    EXPECT_TRUE(m_prompter.Texts().back().startsWith("Cannot find the .inp file for this game."));
+    EXPECT_FALSE(Controls().chkPlayback->isChecked());
+    EXPECT_FALSE(FileExists(m_mame.Launches())) << "nothing was started";
+}
+
+TEST_F(MainWindowLaunch, DecliningToOverwriteARecordingStartsWithoutRecording) {
+    WriteOptions("[Core Output Directory Options]\r\nInput=" + (m_folder / "inp").string() +
+                 "\r\n");
+    WriteFile(Inp("pacman"), "old recording");
+    ASSERT_TRUE(Load()) << Told();
+    Select(*Controls().lvAll, "pacman");
+    Controls().chkRecord->setChecked(true);
+    m_prompter.Queue(PromptAnswer::No);
+    Form().PlayArcade();
+    EXPECT_EQ(m_prompter.Prompts().front().title, "Record");
+    EXPECT_FALSE(Controls().chkRecord->isChecked());
+    EXPECT_NE(Launches().find("pacman"), std::string::npos) << "the machine started all the same";
+    EXPECT_EQ(ReadFile(Inp("pacman")), "old recording");
+}
+
+TEST_F(MainWindowLaunch, ThePreviewShowsTheIniAndStartsNothing) {
+    ASSERT_TRUE(Load()) << Told();
+    Select(*Controls().lvAll, "pacman");
+    std::filesystem::remove(m_mame.Launches());
+    Controls().cmdFind->click();
+    EXPECT_EQ(Controls().fraVerify->title(), "MAME.Ini");
+    const QString text = Controls().rtfVerify->toPlainText();
+    EXPECT_TRUE(
+        text.startsWith("The mame.ini is incomplete because you have not made any option changes."))
+        << text.left(200).toStdString();
+    EXPECT_TRUE(text.contains("inipath") || text.contains("rompath"));
+    EXPECT_FALSE(FileExists(m_mame.Launches()));
+    EXPECT_FALSE(Controls().cmdFind->isHidden() && Controls().lblBLinks[LinkFind]->isHidden())
+        << "the command comes back after the preview";
+    const auto lines = ReadTextLines(m_context.data.Temp() / "mame.ini");
+    ASSERT_TRUE(lines.has_value());
+    EXPECT_LT(lines->size(), 100u) << "the base text is back";
+}
+
+TEST_F(MainWindowLaunch, TheStartBoxesReachMameIni) {
+    ASSERT_TRUE(Load()) << Told();
+    Controls().chkAutoSave->setChecked(true);
+    EXPECT_NE(ReadFile(m_context.data.Temp() / "mame.ini").find("autosave"), std::string::npos);
+    Controls().chkRecord->setChecked(true);
+    Controls().chkPlayback->setChecked(true);
+    EXPECT_FALSE(Controls().chkRecord->isChecked()) << "playback and record exclude each other";
+}
+
+} // namespace
+} // namespace coinlight::test
