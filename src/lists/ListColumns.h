@@ -45,6 +45,8 @@ struct ColumnSpec {
 std::vector<ColumnSpec> ArcadeListColumns(bool hasNPlayers);
 /// The other-machine list: the same record columns, a wider Brief Name(s), no Players.
 std::vector<ColumnSpec> OtherListColumns();
+/// The software of the selected other machine: the fields of its software file.
+std::vector<ColumnSpec> SoftwareListColumns();
 
 inline constexpr int kTwipsPerPixel = 15;
 

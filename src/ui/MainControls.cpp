@@ -36,11 +36,8 @@ QPushButton* AddButton(QWidget* parent, const char* name, const QString& caption
     return button;
 }
 
-QLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QString& caption) {
-    auto* link = Named(new QLabel(parent), IndexedName("lblBLinks", index));
-    SetLinkText(link, caption);
-    link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    link->setFocusPolicy(Qt::TabFocus);
+LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QString& caption) {
+    auto* link = Named(new LinkLabel(caption, parent), IndexedName("lblBLinks", index));
     controls.lblBLinks[static_cast<std::size_t>(index)] = link;
     return link;
 }
@@ -76,14 +73,6 @@ QWidget* BuildListFrame(MainControls& c) {
     c.fraList =
         Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
     auto* layout = new QVBoxLayout(c.fraList);
-    c.lblToggle = Named(new QLabel, QStringLiteral("lblToggle"));
-    SetLinkText(c.lblToggle, QStringLiteral("\u25C6"));
-    c.lblToggle->setToolTip(QStringLiteral("Next arcade list"));
-    c.lblToggle->setCursor(Qt::PointingHandCursor);
-    auto* top = new QHBoxLayout;
-    top->addStretch();
-    top->addWidget(c.lblToggle);
-    layout->addLayout(top);
 
     c.lists = Named(new QStackedWidget, QStringLiteral("lists"));
     c.lvAll = new MachineListView("lvAll", false);
@@ -143,6 +132,9 @@ QWidget* BuildPleaseWait(MainControls& c) {
 
 QLayout* BuildDetailsStrip(MainControls& c) {
     auto* strip = new QHBoxLayout;
+    c.lblToggle = Named(new LinkLabel(QStringLiteral("\u25C6")), QStringLiteral("lblToggle"));
+    c.lblToggle->setToolTip(QStringLiteral("Next Arcade List"));
+    strip->addWidget(c.lblToggle);
     const int stretch[7] = {2, 6, 2, 2, 1, 1, 3};
     for (int i = 0; i < 7; ++i) {
         auto* label = Named(new QLabel, IndexedName("lblPanel", i));
@@ -153,6 +145,9 @@ QLayout* BuildDetailsStrip(MainControls& c) {
         c.lblPanel[static_cast<std::size_t>(i)] = label;
         strip->addWidget(label, stretch[i]);
     }
+    // Room for the largest count MAME can have.
+    c.lblPanel[0]->setMinimumWidth(
+        c.lblPanel[0]->fontMetrics().horizontalAdvance(QStringLiteral("Machines: 888888")) + 8);
     return strip;
 }
 
@@ -221,8 +216,8 @@ QWidget* BuildSideColumn(MainControls& c) {
 
 } // namespace
 
-void SetLinkText(QLabel* link, const QString& text) {
-    link->setText(QStringLiteral("<a href=\"#\">%1</a>").arg(text.toHtmlEscaped()));
+void SetLinkText(LinkLabel* link, const QString& text) {
+    link->SetCaption(text);
 }
 
 MainControls BuildMainControls(QMainWindow& window) {
@@ -249,8 +244,18 @@ MainControls BuildMainControls(QMainWindow& window) {
     top->addWidget(BuildSideColumn(c));
     outer->addLayout(top, 1);
 
+    auto* bottom = new QHBoxLayout;
     c.lblScroll = Named(new QLabel, QStringLiteral("lblScroll"));
-    outer->addWidget(c.lblScroll);
+    c.lblScroll->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    bottom->addWidget(c.lblScroll, 1);
+    c.lblClrMAME = Named(new QLabel(QStringLiteral("ClrMAME")), QStringLiteral("lblClrMAME"));
+    c.lblClrMAME->hide();
+    bottom->addWidget(c.lblClrMAME);
+    // No text: the user finds it by clicking the corner, as the start time has always been.
+    c.lblStartTime = Named(new QLabel(QStringLiteral("  ")), QStringLiteral("lblStartTime"));
+    c.lblStartTime->setFixedSize(12, 12);
+    bottom->addWidget(c.lblStartTime);
+    outer->addLayout(bottom);
     window.setCentralWidget(central);
     return c;
 }

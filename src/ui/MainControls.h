@@ -11,6 +11,8 @@
 #include <QStackedWidget>
 #include <QTextBrowser>
 
+#include "LinkLabel.h"
+
 class QMainWindow;
 
 namespace coinlight {
@@ -64,7 +66,7 @@ struct MainControls {
     MachineListView* lvOther = nullptr;
     QWidget* picSpacer = nullptr;
     MachineListView* lvSoftware = nullptr;
-    QLabel* lblToggle = nullptr;
+    LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
 
@@ -78,7 +80,7 @@ struct MainControls {
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;
-    std::array<QLabel*, kLinkCount> lblBLinks{};
+    std::array<LinkLabel*, kLinkCount> lblBLinks{};
     QCheckBox* chkAutoSave = nullptr;
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
@@ -86,13 +88,15 @@ struct MainControls {
     QWidget* picSoftware = nullptr;
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
+    QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
+    QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
     QLabel* lblShots = nullptr;
 };
 
 /// Makes the controls, lays them out in `window` and returns them.
 MainControls BuildMainControls(QMainWindow& window);
 
-/// A label that reads like a link; clicking it emits linkActivated.
-void SetLinkText(QLabel* link, const QString& text);
+/// Changes what a link says.
+void SetLinkText(LinkLabel* link, const QString& text);
 
 } // namespace coinlight

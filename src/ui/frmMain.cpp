@@ -6,9 +6,11 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QSysInfo>
 
 #include "MachineListView.h"
 #include "Prompter.h"
+#include "core/AppFolders.h"
 #include "core/FileTests.h"
 #include "core/OptionsIni.h"
 #include "frmCover.h"
@@ -21,6 +23,8 @@ frmMain::frmMain(AppContext& context, Prompter& prompter, QWidget* parent)
       m_controls(BuildMainControls(*this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Coinlight"));
+    PanelTooltips();
+    m_controls.lblStartTime->installEventFilter(this);
     ConnectControls();
 }
 
@@ -162,6 +166,31 @@ void frmMain::StartScrolling() {
     // The information line arrives with the information panel.
 }
 
+void frmMain::PanelTooltips() {
+    const char* const tips[] = {"Total Machines",
+                                "Machine",
+                                "Name",
+                                "",
+                                "Main Orientation: H = Horizontal   V = Vertical   U = Unknown",
+                                "Set Type: P = Parent   C = Clone",
+                                "Settings Used If Available"};
+    for (std::size_t i = 0; i < m_controls.lblPanel.size(); ++i) {
+        m_controls.lblPanel[i]->setToolTip(QString::fromLatin1(tips[i]));
+    }
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_controls.lblStartTime && event->type() == QEvent::MouseButtonRelease) {
+        const double seconds = m_context.readyTimer - m_context.startTimer;
+        m_prompter.Message(QStringLiteral("Start-Up Time"),
+                           QString::number(static_cast<long long>(seconds + 0.5)) +
+                               QStringLiteral(" Second(s)"),
+                           PromptIcon::Information);
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void frmMain::DisableFormButtons() {
     const MainControls& c = m_controls;
     for (QWidget* control :
@@ -247,6 +276,10 @@ void frmMain::UnloadAllForms() {
 
 void frmMain::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
+    // The maker's own machine shows a tool of his; nobody else's does.
+    const auto computer =
+        ProcessEnvironment()("COMPUTERNAME").value_or(QSysInfo::machineHostName().toStdString());
+    m_controls.lblClrMAME->setVisible(computer == "WORKBENCH7");
     if (m_activatedOnce) {
         return;
     }
@@ -275,9 +308,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
-    const bool settingsOpen =
-        m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
-        m_controls.lblBLinks[LinkExit]->text().contains(QStringLiteral(">Cancel<"));
+    const bool settingsOpen = m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
+                              m_controls.lblBLinks[LinkExit]->Caption() == QStringLiteral("Cancel");
     if (!settingsOpen) {
         EmptyTempFolder();
         const ControlFlags& flags = m_context.flags;

@@ -75,6 +75,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -102,6 +103,7 @@ private:
     void ResetHiddenSortKeys();
     bool LoadAllLists();
     void LoadBiosTables();
+    void ApplyListsAppearance();
     void RestoreSelections();
     void ShowSavedView();
     void FixAllHidden();
@@ -138,6 +140,7 @@ private:
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);
     void PanelTextHide();
+    void PanelTooltips();
     void PanelClearSoftware();
     void ShowPage(QWidget* page);
     void SetLinksOrButtons();

@@ -39,6 +39,7 @@ bool frmMain::OpenOptions(bool firstRun) {
     }
     if (outcome.lookChanged) {
         SetLinksOrButtons();
+        ApplyListsAppearance();
     }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
@@ -231,7 +232,7 @@ void frmMain::ShowErrorOutput(const std::string& text) {
 void frmMain::Find() {
     const bool mameIniRole =
         m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
-        m_controls.lblBLinks[LinkFind]->text().contains(QStringLiteral(">MAME.Ini<"));
+        m_controls.lblBLinks[LinkFind]->Caption() == QStringLiteral("MAME.Ini");
     if (!mameIniRole) {
         return; // the other roles of this command come with their reports
     }

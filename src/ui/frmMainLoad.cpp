@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "ListAppearance.h"
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "core/AppFolders.h"
@@ -64,6 +65,7 @@ bool frmMain::FormLoad() {
         return false;
     }
     ShowPage(m_controls.fraList);
+    ApplyListsAppearance();
     RestoreSelections();
     ShowSavedView();
     m_controls.lblVersion->setText(QStringLiteral("Version: ") +
@@ -106,6 +108,7 @@ void frmMain::BuildListColumns() {
         list->SetColumns(arcade, m_hiddenColumns);
     }
     m_controls.lvOther->SetColumns(OtherListColumns(), m_hiddenColumns);
+    m_controls.lvSoftware->SetColumns(SoftwareListColumns(), {});
 }
 
 bool frmMain::LoadOptions() {
@@ -329,6 +332,17 @@ bool frmMain::RegenerateIfMissing() {
         }
     }
     return true;
+}
+
+void frmMain::ApplyListsAppearance() {
+    const OtherPreferences& other = m_context.preferences.other;
+    const bool starField = other.theme == "Heritage";
+    const MainControls& c = m_controls;
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvSoftware}) {
+        ApplyListAppearance(*list, other, starField, false);
+    }
+    // The other list never has the picture, and keeps its own text colour: red marks data.
+    ApplyListAppearance(*c.lvOther, other, false, true);
 }
 
 void frmMain::RestoreSelections() {
