@@ -17,6 +17,10 @@ MainWindowFixture::MainWindowFixture() {
     for (const auto& entry : std::filesystem::directory_iterator(catalogue)) {
         std::filesystem::copy_file(entry.path(), Output() / entry.path().filename());
     }
+    // A packaged MAME of the machine the tests run on must not fill the dialog.
+    m_locations.distributionData = m_folder / "no-share";
+    m_locations.home = m_folder / "no-home";
+    m_locations.searchPath = "";
     m_dialogWatch.setInterval(20);
     QObject::connect(&m_dialogWatch, &QTimer::timeout, [this] { WatchForDialogs(); });
     m_dialogWatch.start();
@@ -82,12 +86,7 @@ bool MainWindowFixture::Load() {
         WriteOptions();
     }
     m_form = std::make_unique<frmMain>(m_context, m_prompter);
-    // A packaged MAME of the machine the tests run on must not fill the dialog.
-    MameLocations nowhere;
-    nowhere.distributionData = m_folder / "no-share";
-    nowhere.home = m_folder / "no-home";
-    nowhere.searchPath = "";
-    m_form->SetMameLocations(nowhere);
+    m_form->SetMameLocations(m_locations);
     return m_form->FormLoad();
 }
 

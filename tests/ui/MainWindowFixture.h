@@ -54,6 +54,7 @@ protected:
     FakeMame m_mame;
     std::unique_ptr<frmMain> m_form;
     bool m_writeOptionsOnLoad = true; // a start with preferences, unless a test says not
+    MameLocations m_locations;        // where Options looks for a packaged MAME: nowhere real
 
 private:
     void WatchForDialogs();

@@ -1,5 +1,8 @@
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include "MainWindowFixture.h"
@@ -245,6 +248,40 @@ TEST_F(MainWindow, AMissingRomFolderLeavesEveryMachineThatNeedsFilesUnavailable)
     ASSERT_TRUE(Load()) << Told();
     EXPECT_EQ(Names(*Controls().lvAvailable), (std::vector<std::string>{"pong"}));
     EXPECT_EQ(Controls().lvUnavailable->Model().rowCount(), 10);
+}
+
+TEST_F(MainWindow, FiltersChosenInOptionsReloadTheListsAndMarkTheCaption) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().ViewOther();
+    AnswerDialog([](QDialog& dialog) {
+        // The paths page first: its fields must be valid for OK to pass.
+        const auto fill = [&dialog](const char* name, const QString& text) {
+            dialog.findChild<QLineEdit*>(QString::fromLatin1(name))->setText(text);
+        };
+        for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
+                                 "txtPluginsPath", "txtLanguagePath"}) {
+            fill(name, QDir::tempPath());
+        }
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("chkHideClonesArcade"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("chkHideCHD"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+        if (dialog.isVisible()) {
+            ADD_FAILURE() << "Options did not close";
+            dialog.reject();
+        }
+    });
+    Form().Options();
+    ASSERT_EQ(DialogsOpened(), 1) << Told();
+    const MainControls& c = Controls();
+    EXPECT_TRUE(Form().InOtherView()) << "the user stays in the Other view";
+    EXPECT_EQ(c.fraList->title(), "Other Machines *");
+    EXPECT_EQ(c.lvOther->Model().RowOfShortName("cdimono1"), -1) << "other list reloaded";
+    EXPECT_EQ(c.lvAll->Model().RowOfShortName("mspacman"), -1) << "arcade list reloaded too";
+    EXPECT_EQ(c.lvAll->Model().RowOfShortName("kinst"), -1);
+    EXPECT_EQ(ReadProfileValue(m_context.data.OptionsIni(), "View", "Filters", ""), "True");
+    Form().ViewAllArcade();
+    EXPECT_EQ(c.fraList->title(), "All Arcade Machines *");
 }
 
 } // namespace

@@ -1,11 +1,8 @@
 // The main window with Debian's MAME itself: a machine that needs no ROM really runs.
-#include <gtest/gtest.h>
+#include <QAbstractButton>
+#include <QLineEdit>
 
-#include "core/FileTests.h"
-#include "support/ScriptedPrompter.h"
-#include "support/TestFiles.h"
-#include "ui/MachineListView.h"
-#include "ui/frmMain.h"
+#include "MainWindowFixture.h"
 
 namespace coinlight::test {
 namespace {
@@ -46,6 +43,41 @@ TEST(RealMame, PongStartsThroughTheMainWindow) {
               std::string::npos);
     EXPECT_TRUE(form.Controls().lblScroll->text().contains("AVERAGE SPEED"))
         << form.Controls().lblScroll->text().toStdString();
+}
+
+class RealMameFirstRun : public MainWindowFixture {};
+
+TEST_F(RealMameFirstRun, DebiansMameOnThePathGivesACatalogueAndFilledLists) {
+    if (!std::filesystem::exists("/usr/games/mame")) {
+        GTEST_SKIP() << "Debian's MAME is not installed at /usr/games/mame";
+    }
+    std::filesystem::remove_all(m_context.data.root);
+    m_writeOptionsOnLoad = false;
+    // A user's PATH and home, and the data the mame package installs.
+    m_locations.searchPath = "/usr/local/bin:/usr/bin:/bin:/usr/games";
+    m_locations.home = m_folder / "home";
+    std::filesystem::create_directories(m_locations.home / ".mame" / "roms"); // a user with ROMs
+    m_locations.distributionData = "/usr/share/games/mame";
+    QString filledPath;
+    AnswerDialog([&filledPath](QDialog& dialog) {
+        filledPath = dialog.findChild<QLineEdit*>(QStringLiteral("txtMAMEPath"))->text();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+        if (dialog.isVisible()) {
+            dialog.reject();
+        }
+    });
+    ASSERT_TRUE(Load()) << Told();
+    EXPECT_EQ(filledPath, "/usr/games/mame") << "the first run found MAME on the PATH";
+    EXPECT_GT(std::filesystem::file_size(Output() / "machine.xml"), 100'000'000u);
+    const MachineListModel& all = Controls().lvAll->Model();
+    EXPECT_GT(all.rowCount(), 10000);
+    EXPECT_GT(Controls().lvOther->Model().rowCount(), 1000);
+    const int pong = all.RowOfShortName("pong");
+    ASSERT_GE(pong, 0);
+    Form().ViewAvailableArcade();
+    EXPECT_GE(Controls().lvAvailable->Model().RowOfShortName("pong"), 0)
+        << "a machine that needs no ROM is available";
 }
 
 } // namespace
