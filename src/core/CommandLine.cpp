@@ -1,10 +1,10 @@
 #include "CommandLine.h"
 
-#include "TextCase.h"
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
+
+#include "TextCase.h"
 
 namespace coinlight {
 

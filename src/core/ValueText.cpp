@@ -109,7 +109,9 @@ std::string DayText(Day day) {
     return text;
 }
 
-std::string PreferenceText(Day value) { return DayText(value); }
+std::string PreferenceText(Day value) {
+    return DayText(value);
+}
 
 std::optional<Day> ParseDay(std::string_view text) {
     text = TrimBlanks(text);

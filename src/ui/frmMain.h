@@ -102,7 +102,7 @@ private:
     void BuildListColumns();
     void ResetHiddenSortKeys();
     bool LoadAllLists();
-    void LoadBiosTables();
+    bool LoadBiosTables();
     void ApplyListsAppearance();
     void RestoreSelections();
     void ShowSavedView();
@@ -166,8 +166,6 @@ private:
     std::set<int> m_hiddenColumns;
     std::vector<std::string> m_artworkFolders;
     std::string m_cabinetPath; // where the cabinet pictures lie
-    std::vector<std::string> m_arcadeBios;
-    std::vector<std::string> m_otherBios;
     std::vector<std::string> m_softwareFolders;
     std::string m_profileName;   // the class profile in force (ProfileName)
     std::string m_commandString; // "Other Commands", then the last command line

@@ -34,7 +34,7 @@ void frmMain::ReportLoadCount(bool arcade, int rows) {
         }
     } else {
         m_controls.lblRefresh[4]->setText(count);
-        m_controls.lblRefresh[4]->repaint();
+        m_controls.lblRefresh[4]->update();
     }
 }
 

@@ -8,11 +8,11 @@
 #include "Prompter.h"
 #include "core/AppFolders.h"
 #include "core/FileTests.h"
+#include "core/LineReader.h"
 #include "core/MarkerFlags.h"
 #include "core/OptionsIni.h"
 #include "core/PreferenceKeys.h"
 #include "core/ProfileFile.h"
-#include "core/TextFile.h"
 #include "core/Version.h"
 #include "frmMain.h"
 #include "frmSplash.h"
@@ -300,7 +300,9 @@ bool frmMain::LoadAllLists() {
     if (hasOther && !LoadListsOther()) {
         return false;
     }
-    LoadBiosTables();
+    if (!LoadBiosTables()) {
+        return false;
+    }
     m_cabinetPath = m_artworkFolders.empty() ? std::string() : m_artworkFolders.front();
     for (const auto& folder : m_artworkFolders) {
         if (folder.ends_with("/cabinet")) {
@@ -313,16 +315,22 @@ bool frmMain::LoadAllLists() {
     return !m_context.flags.fatalErrorFlag;
 }
 
-void frmMain::LoadBiosTables() {
-    // Element 0 is the default choice; element n the n-th BIOS line of the family.
-    for (auto [table, file] :
-         {std::pair{&m_arcadeBios, "arcadebios.txt"}, std::pair{&m_otherBios, "otherbios.txt"}}) {
-        *table = {"Default"};
-        for (auto& line :
-             ReadTextLines(m_context.data.Output() / file).value_or(std::vector<std::string>{})) {
-            table->push_back(std::move(line));
+bool frmMain::LoadBiosTables() {
+    // Nothing reads these tables: what counts is that both files are there and readable,
+    // so they are read through without being kept (they hold some 34,000 lines).
+    for (const char* file : {"arcadebios.txt", "otherbios.txt"}) {
+        LineReader reader(m_context.data.Output() / file);
+        std::string_view line;
+        while (reader.Next(line)) {
+        }
+        if (!reader.IsOpen() || reader.Failed()) {
+            FatalLoadError(
+                QStringLiteral("Cannot read ") + ToQString(m_context.data.Output() / file), 22);
+            m_context.flags.fatalErrorFlag = true;
+            return false;
         }
     }
+    return true;
 }
 
 bool frmMain::RegenerateIfMissing() {

@@ -93,12 +93,23 @@ void frmSplash::SetMessageOptions(const QString& text) {
 
 void frmSplash::SetArcadeCount(const QString& text) {
     m_arcadeCount->setText(text);
-    m_arcadeCount->repaint();
+    RepaintCount(m_arcadeCount);
 }
 
 void frmSplash::SetOtherCount(const QString& text) {
     m_otherCount->setText(text);
-    m_otherCount->repaint();
+    RepaintCount(m_otherCount);
+}
+
+void frmSplash::RepaintCount(QLabel* count) {
+    // A count changes every 25 machines, hundreds of times a second: painting each one
+    // would cost more than the loading it reports, and no eye could follow it.
+    if (!m_sinceCountPainted.isValid() || m_sinceCountPainted.elapsed() >= 40) {
+        count->repaint();
+        m_sinceCountPainted.restart();
+    } else {
+        count->update();
+    }
 }
 
 void frmSplash::SetOtherCaption(const QString& text) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QWidget>
 
@@ -22,6 +23,7 @@ public:
 
 private:
     QLabel* AddLabel(const char* name, const QString& text);
+    void RepaintCount(QLabel* count);
 
     QLabel* m_picture = nullptr;
     QLabel* m_version = nullptr;
@@ -30,6 +32,7 @@ private:
     QLabel* m_otherCount = nullptr;
     QLabel* m_message = nullptr;
     QLabel* m_messageOptions = nullptr;
+    QElapsedTimer m_sinceCountPainted;
 };
 
 } // namespace coinlight
