@@ -94,4 +94,68 @@ std::optional<BigBuffer> ReadFileBig(const std::filesystem::path& file) {
     return buffer;
 }
 
+FileText::~FileText() {
+    Release();
+}
+
+FileText::FileText(FileText&& other) noexcept
+    : m_data(other.m_data), m_size(other.m_size), m_mapped(other.m_mapped),
+      m_read(std::move(other.m_read)) {
+    other.m_data = nullptr;
+    other.m_size = 0;
+    other.m_mapped = false;
+}
+
+FileText& FileText::operator=(FileText&& other) noexcept {
+    if (this != &other) {
+        Release();
+        m_data = other.m_data;
+        m_size = other.m_size;
+        m_mapped = other.m_mapped;
+        m_read = std::move(other.m_read);
+        other.m_data = nullptr;
+        other.m_size = 0;
+        other.m_mapped = false;
+    }
+    return *this;
+}
+
+void FileText::Release() {
+    if (m_mapped && m_data != nullptr) {
+        ::munmap(const_cast<char*>(m_data), m_size);
+    }
+    m_data = nullptr;
+    m_size = 0;
+    m_mapped = false;
+}
+
+std::optional<FileText> FileText::Open(const std::filesystem::path& file) {
+    FileText text;
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return std::nullopt;
+    }
+    struct stat info {};
+    if (::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) && info.st_size > 0) {
+        void* mapped = ::mmap(nullptr, static_cast<std::size_t>(info.st_size), PROT_READ,
+                              MAP_PRIVATE | MAP_POPULATE, descriptor, 0);
+        if (mapped != MAP_FAILED) {
+            ::close(descriptor);
+            text.m_data = static_cast<const char*>(mapped);
+            text.m_size = static_cast<std::size_t>(info.st_size);
+            text.m_mapped = true;
+            return text;
+        }
+    }
+    ::close(descriptor);
+    auto read = ReadFileBig(file);
+    if (!read) {
+        return std::nullopt;
+    }
+    text.m_read = std::move(*read);
+    text.m_data = text.m_read.Data();
+    text.m_size = text.m_read.Size();
+    return text;
+}
+
 } // namespace coinlight

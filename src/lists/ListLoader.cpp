@@ -75,7 +75,7 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
     LoadedList list;
     list.machines = std::make_shared<MachineRows>();
     // The whole file stays in memory and the rows point into it: one read, no copy a row.
-    auto bytes = ReadFileBig(file);
+    auto bytes = FileText::Open(file);
     if (!bytes) {
         list.error = FailureMessage(routine, "File not found: " + file.string(), "", 4);
         return list;

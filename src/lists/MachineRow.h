@@ -10,10 +10,12 @@
 
 namespace coinlight {
 
-/// Where the fields of one catalogue line lie: the text between each pair of quotes.
+/// Where the fields of one catalogue line lie: the text between each pair of quotes. Lines
+/// are far shorter than 64 KB (MAME's longest is some 500 bytes); a longer one is refused.
 struct RecordSpans {
-    std::array<std::uint32_t, kRecordFieldCount> begin{};
-    std::array<std::uint32_t, kRecordFieldCount> end{};
+    static constexpr std::size_t kLongestLine = 0xFFFF;
+    std::array<std::uint16_t, kRecordFieldCount> begin{};
+    std::array<std::uint16_t, kRecordFieldCount> end{};
 
     std::string_view Field(std::string_view line, int column) const {
         const auto c = static_cast<std::size_t>(column);
