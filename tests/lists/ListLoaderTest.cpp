@@ -131,6 +131,10 @@ TEST_F(Loader, ABrokenRecordOrMissingFileFailsWithTheVersionAdvice) {
     EXPECT_NE(broken.error.find("Error In LoadListsArcade: "), std::string::npos);
     EXPECT_NE(broken.error.find("This might mean you are not using the correct version of MAME."),
               std::string::npos);
+    WriteFile(m_info,
+              "\"" + std::string(70'000, 'x') + "\"" + RecordLine(Record("after")).substr(1));
+    EXPECT_FALSE(LoadArcadeList(m_info, Options(), {}).error.empty())
+        << "a line longer than any catalogue line is refused, not misread";
     const LoadedList missing = LoadOtherList(m_folder / "none.txt", Options(), {});
     EXPECT_NE(missing.error.find("Error In LoadListsOther: "), std::string::npos);
     EXPECT_TRUE(missing.machines->rows.empty());

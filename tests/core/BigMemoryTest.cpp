@@ -1,0 +1,46 @@
+#include "core/BigMemory.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "support/TestFiles.h"
+
+namespace coinlight {
+namespace {
+
+TEST(BigMemory, FileTextGivesTheBytesOfAFileAndOutlivesItsReplacement) {
+    test::TempFolder folder;
+    const auto file = folder / "arcadeinfo.txt";
+    test::WriteFile(file, "\"a\",\"b\"\r\n");
+    auto text = FileText::Open(file);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->View(), "\"a\",\"b\"\r\n");
+    // A rebuilt catalogue replaces the file by a rename: what was read stays whole.
+    test::WriteFile(folder / "new.txt", "other");
+    std::filesystem::rename(folder / "new.txt", file);
+    EXPECT_EQ(text->View(), "\"a\",\"b\"\r\n");
+    FileText moved = std::move(*text);
+    EXPECT_EQ(moved.View().size(), 9u);
+
+    test::WriteFile(folder / "empty.txt", "");
+    const auto empty = FileText::Open(folder / "empty.txt");
+    ASSERT_TRUE(empty);
+    EXPECT_TRUE(empty->View().empty());
+    EXPECT_FALSE(FileText::Open(folder / "missing.txt"));
+    EXPECT_FALSE(FileText::Open(folder.Path())) << "a folder is no text";
+}
+
+TEST(BigMemory, LargeContainersGrowAndShrinkThroughTheBigAllocator) {
+    std::vector<std::uint64_t, BigAllocator<std::uint64_t>> numbers;
+    for (std::uint64_t i = 0; i < 600'000; ++i) { // 4.8 MB: past the threshold more than once
+        numbers.push_back(i * 3);
+    }
+    EXPECT_EQ(numbers[599'999], 1'799'997u);
+    numbers.shrink_to_fit();
+    numbers.resize(10);
+    numbers.shrink_to_fit();
+    EXPECT_EQ(numbers.back(), 27u);
+}
+
+} // namespace
+} // namespace coinlight
