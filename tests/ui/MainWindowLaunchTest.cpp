@@ -1,6 +1,7 @@
 // Starting arcade machines from the main window, against the fake MAME and, once, the real one.
 #include <QCheckBox>
 #include <QPushButton>
+#include <QTest>
 #include <QTextBrowser>
 
 #include "MainWindowFixture.h"
@@ -52,6 +53,27 @@ TEST_F(MainWindowLaunch, AStartRunsTheEmulatorAndShowsWhatItPrinted) {
     EXPECT_FALSE(Form().isHidden()) << "the window is back";
     Form().ReturnList1();
     EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList);
+}
+
+TEST_F(MainWindowLaunch, EnterAndDoubleClickStartWhatTheListOffers) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().ViewAvailableArcade();
+    Select(*Controls().lvAvailable, "galaga");
+    std::filesystem::remove(m_mame.Launches());
+    QTest::keyClick(Controls().lvAvailable, Qt::Key_Return);
+    EXPECT_NE(Launches().find("\tgalaga\n"), std::string::npos) << "Enter in the list starts it";
+
+    Form().ReturnList1();
+    Form().ViewUnavailableArcade();
+    emit Controls().lvUnavailable->RowActivated(0);
+    EXPECT_EQ(m_prompter.Prompts().back().title, "Start");
+    EXPECT_EQ(m_prompter.Texts().back(), "This ROM is unavailable.");
+
+    Form().ViewAllArcade();
+    Controls().fraVerify->setTitle(QStringLiteral("MAME Error Output"));
+    Controls().pages->setCurrentWidget(Controls().fraVerify);
+    QTest::keyClick(&Form(), Qt::Key_Return);
+    EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList) << "Enter leaves a text page";
 }
 
 TEST_F(MainWindowLaunch, OtherCommandsOfTheMachinesProfileFollowTheName) {
