@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -8,7 +9,9 @@
 #include <QPointer>
 
 #include "MainControls.h"
+#include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
@@ -93,7 +96,7 @@ private:
     bool RebuildFromLists();
     bool CaptureMameLists();
     bool CreateCatalogueFiles();
-    bool ShowCatalogueOutcome(const struct CatalogueOutcome& outcome);
+    bool ShowCatalogueOutcome(const CatalogueOutcome& outcome);
     bool MergeCategories();
     bool PurgeAllFavorites();
     void PurgeFavoritesOf(const std::string& word);
@@ -112,6 +115,8 @@ private:
     // Lists
     bool LoadListsArcade();
     bool LoadListsOther();
+    void ShowLoadingStatus(const QString& family);
+    std::optional<LoadedList> LoadFamily(bool arcade, const std::filesystem::path& file);
     void ReportLoadCount(bool arcade, int rows);
     void ShowListInView(MachineListView& list, const ListState& saved);
     MachineListView* ListOfView();

@@ -38,15 +38,49 @@ void frmMain::ReportLoadCount(bool arcade, int rows) {
     }
 }
 
-bool frmMain::LoadListsArcade() {
-    const WaitCursor hourglass;
-    Preferences& preferences = m_context.preferences;
+void frmMain::ShowLoadingStatus(const QString& family) {
     if (m_context.flags.formLoading) {
         Splash().SetMessage(QStringLiteral("Populating machine lists..."));
+        Splash().SetOtherCaption(QStringLiteral("Other Machines:"));
     } else {
-        m_controls.lblRefresh[3]->setText(QStringLiteral("Arcade Machines:"));
+        m_controls.lblRefresh[3]->setText(family);
         m_controls.lblRefresh[3]->repaint();
     }
+}
+
+std::optional<LoadedList> frmMain::LoadFamily(bool arcade, const std::filesystem::path& file) {
+    const Preferences& preferences = m_context.preferences;
+    ListLoadOptions options;
+    options.filters = arcade ? ListFilterSettings::ForArcade(preferences)
+                             : ListFilterSettings::ForOther(preferences);
+    options.mergedRomSets = preferences.other.mergedRomSets;
+    options.skipSearch = m_context.markers.skipSearch;
+    // Each ROM folder is listed once for the whole load, not once a machine.
+    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{}
+                              : arcade           ? m_arcadeRomFolders
+                                                 : m_otherRomFolders);
+    options.roms = &roms;
+    if (arcade && m_context.facts.hasNPlayers) {
+        options.nplayers = LoadProfile(m_context.data.Support() / "nplayers.ini");
+    }
+    const ListLoadProgress progress{[this, arcade](int rows) { ReportLoadCount(arcade, rows); },
+                                    [this] {
+                                        Pump();
+                                    }};
+    LoadedList loaded =
+        arcade ? LoadArcadeList(file, options, progress) : LoadOtherList(file, options, progress);
+    if (!loaded.error.empty()) {
+        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
+        m_context.flags.fatalErrorFlag = true;
+        return std::nullopt;
+    }
+    return loaded;
+}
+
+bool frmMain::LoadListsArcade() {
+    const WaitCursor hourglass;
+    ShowLoadingStatus(QStringLiteral("Arcade Machines:"));
+    Preferences& preferences = m_context.preferences;
     auto file = m_context.data.Output() / "arcadeinfo.txt";
     if (preferences.view.favoriteArcade) {
         const auto favourites = m_context.data.Output() / "arcadefavs.txt";
@@ -57,29 +91,14 @@ bool frmMain::LoadListsArcade() {
             m_controls.mnuViewArcadeFavorites->setChecked(false);
         }
     }
-    ListLoadOptions options;
-    options.filters = ListFilterSettings::ForArcade(preferences);
-    options.mergedRomSets = preferences.other.mergedRomSets;
-    options.skipSearch = m_context.markers.skipSearch;
-    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{} : m_arcadeRomFolders);
-    options.roms = &roms;
-    if (m_context.facts.hasNPlayers) {
-        options.nplayers = LoadProfile(m_context.data.Support() / "nplayers.ini");
-    }
-    LoadedList loaded = LoadArcadeList(file, options,
-                                       {[this](int rows) { ReportLoadCount(true, rows); },
-                                        [this] {
-                                            Pump();
-                                        }});
-    if (!loaded.error.empty()) {
-        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
-        m_context.flags.fatalErrorFlag = true;
+    auto loaded = LoadFamily(true, file);
+    if (!loaded) {
         return false;
     }
-    m_arcadeRows = loaded.machines;
+    m_arcadeRows = loaded->machines;
     m_controls.lvAll->Model().Reset(m_arcadeRows, AllRows(*m_arcadeRows));
-    m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded.available));
-    m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded.unavailable));
+    m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded->available));
+    m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded->unavailable));
     for (MachineListView* list :
          {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
         list->SelectRow(0);
@@ -89,39 +108,20 @@ bool frmMain::LoadListsArcade() {
 
 bool frmMain::LoadListsOther() {
     const WaitCursor hourglass;
-    Preferences& preferences = m_context.preferences;
-    if (m_context.flags.formLoading) {
-        Splash().SetMessage(QStringLiteral("Populating machine lists..."));
-        Splash().SetOtherCaption(QStringLiteral("Other Machines:"));
-    } else {
-        m_controls.lblRefresh[3]->setText(QStringLiteral("Other Machines:"));
-        m_controls.lblRefresh[3]->repaint();
-    }
+    ShowLoadingStatus(QStringLiteral("Other Machines:"));
     // Unlike the arcade list, a missing favourites file is not replaced by the full list:
     // the load fails and says so.
     auto file = m_context.data.Output() / "otherinfo.txt";
-    if (preferences.view.favoriteOther) {
+    if (m_context.preferences.view.favoriteOther) {
         file = m_context.data.Output() / "otherfavs.txt";
     } else {
         m_controls.mnuViewOtherFavorites->setChecked(false);
     }
-    ListLoadOptions options;
-    options.filters = ListFilterSettings::ForOther(preferences);
-    options.mergedRomSets = preferences.other.mergedRomSets;
-    options.skipSearch = m_context.markers.skipSearch;
-    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{} : m_otherRomFolders);
-    options.roms = &roms;
-    LoadedList loaded = LoadOtherList(file, options,
-                                      {[this](int rows) { ReportLoadCount(false, rows); },
-                                       [this] {
-                                           Pump();
-                                       }});
-    if (!loaded.error.empty()) {
-        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
-        m_context.flags.fatalErrorFlag = true;
+    auto loaded = LoadFamily(false, file);
+    if (!loaded) {
         return false;
     }
-    m_otherRows = loaded.machines;
+    m_otherRows = loaded->machines;
     m_controls.lvOther->Model().Reset(m_otherRows, AllRows(*m_otherRows));
     m_controls.lvOther->SelectRow(0);
     return true;
