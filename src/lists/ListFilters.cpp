@@ -35,8 +35,8 @@ bool IsFourDigits(std::string_view year) {
 }
 
 bool Contains(const std::vector<std::string>& lowerNames, std::string_view text) {
-    const std::string lower = ToLowerAscii(text);
-    return std::find(lowerNames.begin(), lowerNames.end(), lower) != lowerNames.end();
+    return std::any_of(lowerNames.begin(), lowerNames.end(),
+                       [text](const std::string& name) { return EqualsIgnoringCase(name, text); });
 }
 
 } // namespace
@@ -75,8 +75,8 @@ bool MachineFilter::HidesByBios(std::string_view romOf, std::string_view shortNa
     const bool hiddenBios = Contains(m_settings.biosSets, romOf);
     // A machine whose BIOS (or parent) was hidden earlier in the file goes too, and so do
     // the machines that name it in turn.
-    if (hiddenBios || m_skipList.count(std::string(romOf)) != 0) {
-        m_skipList.insert(std::string(shortName));
+    if (hiddenBios || m_skipList.find(romOf) != m_skipList.end()) {
+        m_skipList.emplace(shortName);
         return true;
     }
     return false;

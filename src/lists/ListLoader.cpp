@@ -1,5 +1,6 @@
 #include "ListLoader.h"
 
+#include "RecordScanner.h"
 #include "SelectionDetails.h"
 #include "core/BigMemory.h"
 
@@ -90,13 +91,10 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
     RecordSpans spans;
     std::array<std::string_view, kRecordFieldCount> fields;
     int lineNumber = 0;
-    for (std::string_view rest = text; !rest.empty();) {
-        const std::size_t newline = rest.find('\n');
-        std::string_view line = rest.substr(0, newline);
-        rest.remove_prefix(newline == std::string_view::npos ? rest.size() : newline + 1);
-        if (!line.empty() && line.back() == '\r') {
-            line.remove_suffix(1);
-        }
+    RecordScanner scanner(text);
+    std::string_view line;
+    bool wellFormed = false;
+    while (scanner.Next(line, spans, wellFormed)) {
         ++lineNumber;
         if (progress.yield) {
             progress.yield();
@@ -104,7 +102,7 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
         if (line.empty()) {
             continue;
         }
-        if (!ParseRecordLine(line, spans)) {
+        if (!wellFormed) {
             list.error =
                 FailureMessage(routine, "Input past end of file", line.substr(0, 60), lineNumber);
             return list;
@@ -144,6 +142,15 @@ LoadedList LoadOtherList(const std::filesystem::path& file, const ListLoadOption
     ListLoadOptions otherOptions = options;
     otherOptions.nplayers.reset(); // the other list has no Players column
     return LoadList("LoadListsOther", file, otherOptions, progress, OtherAvailable);
+}
+
+LoadedList ListLoadJob::Run(const ListLoadProgress& progress) const {
+    // Each ROM folder is listed once for the whole load, not once a machine.
+    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{} : romFolders);
+    ListLoadOptions withRoms = options;
+    withRoms.roms = &roms;
+    return arcade ? LoadArcadeList(file, withRoms, progress)
+                  : LoadOtherList(file, withRoms, progress);
 }
 
 std::vector<std::uint32_t> AllRows(const MachineRows& machines) {

@@ -47,6 +47,17 @@ LoadedList LoadArcadeList(const std::filesystem::path& file, const ListLoadOptio
 LoadedList LoadOtherList(const std::filesystem::path& file, const ListLoadOptions& options,
                          const ListLoadProgress& progress);
 
+/// One family's load as a value: what the window decided (file, filters, folders) and
+/// nothing of the window, so that it can run on another thread.
+struct ListLoadJob {
+    bool arcade = true;
+    std::filesystem::path file;
+    ListLoadOptions options; // `roms` is set by Run from `romFolders`
+    std::vector<std::string> romFolders;
+
+    LoadedList Run(const ListLoadProgress& progress) const;
+};
+
 /// All row numbers of a list, in order.
 std::vector<std::uint32_t> AllRows(const MachineRows& rows);
 

@@ -116,7 +116,13 @@ private:
     bool LoadListsArcade();
     bool LoadListsOther();
     void ShowLoadingStatus(const QString& family);
-    std::optional<LoadedList> LoadFamily(bool arcade, const std::filesystem::path& file);
+    ListLoadJob ListJob(bool arcade, std::filesystem::path file) const;
+    ListLoadJob ArcadeListJob();
+    ListLoadJob OtherListJob();
+    ListLoadProgress LoadProgress(bool arcade);
+    bool ShowLoaded(LoadedList& loaded);
+    bool ApplyArcadeList(LoadedList loaded);
+    bool ApplyOtherList(LoadedList loaded);
     void ReportLoadCount(bool arcade, int rows);
     void ShowListInView(MachineListView& list, const ListState& saved);
     MachineListView* ListOfView();

@@ -48,38 +48,23 @@ void frmMain::ShowLoadingStatus(const QString& family) {
     }
 }
 
-std::optional<LoadedList> frmMain::LoadFamily(bool arcade, const std::filesystem::path& file) {
+ListLoadJob frmMain::ListJob(bool arcade, std::filesystem::path file) const {
     const Preferences& preferences = m_context.preferences;
-    ListLoadOptions options;
-    options.filters = arcade ? ListFilterSettings::ForArcade(preferences)
-                             : ListFilterSettings::ForOther(preferences);
-    options.mergedRomSets = preferences.other.mergedRomSets;
-    options.skipSearch = m_context.markers.skipSearch;
-    // Each ROM folder is listed once for the whole load, not once a machine.
-    const RomFolderIndex roms(options.skipSearch ? std::vector<std::string>{}
-                              : arcade           ? m_arcadeRomFolders
-                                                 : m_otherRomFolders);
-    options.roms = &roms;
+    ListLoadJob job;
+    job.arcade = arcade;
+    job.file = std::move(file);
+    job.options.filters = arcade ? ListFilterSettings::ForArcade(preferences)
+                                 : ListFilterSettings::ForOther(preferences);
+    job.options.mergedRomSets = preferences.other.mergedRomSets;
+    job.options.skipSearch = m_context.markers.skipSearch;
+    job.romFolders = arcade ? m_arcadeRomFolders : m_otherRomFolders;
     if (arcade && m_context.facts.hasNPlayers) {
-        options.nplayers = LoadProfile(m_context.data.Support() / "nplayers.ini");
+        job.options.nplayers = LoadProfile(m_context.data.Support() / "nplayers.ini");
     }
-    const ListLoadProgress progress{[this, arcade](int rows) { ReportLoadCount(arcade, rows); },
-                                    [this] {
-                                        Pump();
-                                    }};
-    LoadedList loaded =
-        arcade ? LoadArcadeList(file, options, progress) : LoadOtherList(file, options, progress);
-    if (!loaded.error.empty()) {
-        m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
-        m_context.flags.fatalErrorFlag = true;
-        return std::nullopt;
-    }
-    return loaded;
+    return job;
 }
 
-bool frmMain::LoadListsArcade() {
-    const WaitCursor hourglass;
-    ShowLoadingStatus(QStringLiteral("Arcade Machines:"));
+ListLoadJob frmMain::ArcadeListJob() {
     Preferences& preferences = m_context.preferences;
     auto file = m_context.data.Output() / "arcadeinfo.txt";
     if (preferences.view.favoriteArcade) {
@@ -91,24 +76,10 @@ bool frmMain::LoadListsArcade() {
             m_controls.mnuViewArcadeFavorites->setChecked(false);
         }
     }
-    auto loaded = LoadFamily(true, file);
-    if (!loaded) {
-        return false;
-    }
-    m_arcadeRows = loaded->machines;
-    m_controls.lvAll->Model().Reset(m_arcadeRows, AllRows(*m_arcadeRows));
-    m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded->available));
-    m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded->unavailable));
-    for (MachineListView* list :
-         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
-        list->SelectRow(0);
-    }
-    return true;
+    return ListJob(true, file);
 }
 
-bool frmMain::LoadListsOther() {
-    const WaitCursor hourglass;
-    ShowLoadingStatus(QStringLiteral("Other Machines:"));
+ListLoadJob frmMain::OtherListJob() {
     // Unlike the arcade list, a missing favourites file is not replaced by the full list:
     // the load fails and says so.
     auto file = m_context.data.Output() / "otherinfo.txt";
@@ -117,14 +88,60 @@ bool frmMain::LoadListsOther() {
     } else {
         m_controls.mnuViewOtherFavorites->setChecked(false);
     }
-    auto loaded = LoadFamily(false, file);
-    if (!loaded) {
+    return ListJob(false, file);
+}
+
+ListLoadProgress frmMain::LoadProgress(bool arcade) {
+    return {[this, arcade](int rows) { ReportLoadCount(arcade, rows); },
+            [this] {
+                Pump();
+            }};
+}
+
+bool frmMain::ShowLoaded(LoadedList& loaded) {
+    if (loaded.error.empty()) {
+        return true;
+    }
+    m_prompter.Inform(QString::fromStdString(loaded.error), PromptIcon::Critical);
+    m_context.flags.fatalErrorFlag = true;
+    return false;
+}
+
+bool frmMain::ApplyArcadeList(LoadedList loaded) {
+    if (!ShowLoaded(loaded)) {
         return false;
     }
-    m_otherRows = loaded->machines;
+    m_arcadeRows = loaded.machines;
+    m_controls.lvAll->Model().Reset(m_arcadeRows, AllRows(*m_arcadeRows));
+    m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded.available));
+    m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded.unavailable));
+    for (MachineListView* list :
+         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
+        list->SelectRow(0);
+    }
+    return true;
+}
+
+bool frmMain::ApplyOtherList(LoadedList loaded) {
+    if (!ShowLoaded(loaded)) {
+        return false;
+    }
+    m_otherRows = loaded.machines;
     m_controls.lvOther->Model().Reset(m_otherRows, AllRows(*m_otherRows));
     m_controls.lvOther->SelectRow(0);
     return true;
+}
+
+bool frmMain::LoadListsArcade() {
+    const WaitCursor hourglass;
+    ShowLoadingStatus(QStringLiteral("Arcade Machines:"));
+    return ApplyArcadeList(ArcadeListJob().Run(LoadProgress(true)));
+}
+
+bool frmMain::LoadListsOther() {
+    const WaitCursor hourglass;
+    ShowLoadingStatus(QStringLiteral("Other Machines:"));
+    return ApplyOtherList(OtherListJob().Run(LoadProgress(false)));
 }
 
 void frmMain::SortColumn(MachineListView& list, int column) {
