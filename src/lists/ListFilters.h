@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "MachineRow.h"
+#include "ShortNameHash.h"
 #include "core/Preferences.h"
 
 namespace coinlight {
@@ -39,15 +40,8 @@ public:
 private:
     bool HidesByBios(std::string_view romOf, std::string_view shortName);
 
-    struct NameHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view name) const noexcept {
-            return std::hash<std::string_view>{}(name);
-        }
-    };
-
     ListFilterSettings m_settings;
-    std::unordered_set<std::string, NameHash, std::equal_to<>> m_skipList;
+    std::unordered_set<std::string, ShortNameHash, std::equal_to<>> m_skipList;
 };
 
 } // namespace coinlight

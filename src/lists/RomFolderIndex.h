@@ -5,6 +5,8 @@
 #include <unordered_set>
 #include <vector>
 
+#include "ShortNameHash.h"
+
 namespace coinlight {
 
 /// The names in each ROM folder, read once per load. An availability test is then a lookup
@@ -23,14 +25,8 @@ public:
     bool Empty() const { return m_folders.empty(); }
 
 private:
-    struct NameHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view name) const noexcept {
-            return std::hash<std::string_view>{}(name);
-        }
-    };
     /// The archives of a folder by the name before ".7z" or ".zip".
-    using ArchiveNames = std::unordered_set<std::string, NameHash, std::equal_to<>>;
+    using ArchiveNames = std::unordered_set<std::string, ShortNameHash, std::equal_to<>>;
 
     std::vector<std::string> m_folders;
     std::vector<ArchiveNames> m_archives;
