@@ -9,7 +9,7 @@
 
 #include "BenchSupport.h"
 #include "CatalogueBenchSupport.h"
-#include "catalogue/BlockLineReader.h"
+#include "core/LineReader.h"
 #include "catalogue/SoftwareCatalogue.h"
 #include "catalogue/XmlLineScanners.h"
 #include "core/CommandLine.h"
@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
     std::string last;
     std::map<std::string, std::size_t> items;
     {
-        BlockLineReader reader(softwareXml);
+        LineReader reader(softwareXml);
         std::string_view line;
         while (reader.Next(line)) {
             if (line.find("<softwarelist name=") != std::string_view::npos) {

@@ -89,7 +89,7 @@ std::string_view CatalogueBuilder::Attribute(std::string_view line, std::string_
     return AttributeOrAbort(line, key, location);
 }
 
-void CatalogueBuilder::Run(BlockLineReader& machineXml) {
+void CatalogueBuilder::Run(LineReader& machineXml) {
     m_reader = &machineXml;
     try {
         Scan(machineXml);
@@ -101,7 +101,7 @@ void CatalogueBuilder::Run(BlockLineReader& machineXml) {
     m_counts.deviceRoms = WaitForDevices().Size();
 }
 
-void CatalogueBuilder::Scan(BlockLineReader& machineXml) {
+void CatalogueBuilder::Scan(LineReader& machineXml) {
     std::string_view raw;
     while (machineXml.Next(raw)) {
         const auto line = [&] {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "BlockLineReader.h"
+#include "core/LineReader.h"
 #include "CatalogueCounts.h"
 #include "CatalogueProgress.h"
 #include "CatalogueWriters.h"
@@ -28,7 +28,7 @@ public:
                      CatalogueProgress& progress);
 
     /// Runs the loop to the end of the file; a failure ends the routine (CatalogueAbort).
-    void Run(BlockLineReader& machineXml);
+    void Run(LineReader& machineXml);
 
     const std::string& UnlistedMachines() const { return m_unlisted; }
     const ProfileTextBuilder& BiosIni() const { return m_biosIni; }
@@ -36,7 +36,7 @@ public:
     CatalogueCounts Counts() const;
 
 private:
-    void Scan(BlockLineReader& machineXml);
+    void Scan(LineReader& machineXml);
     void StartMachine(std::string_view line);
     void Description(std::string_view line);
     void Manufacturer(std::string_view line);
@@ -65,7 +65,7 @@ private:
     const ProfileDocument* m_catver;
     CatalogueWriters& m_writers;
     CatalogueProgress& m_progress;
-    BlockLineReader* m_reader = nullptr;
+    LineReader* m_reader = nullptr;
 
     MachineFields m_fields;
     std::string m_biosSets;

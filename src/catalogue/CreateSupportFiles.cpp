@@ -52,7 +52,7 @@ void KeepLastRun(const std::filesystem::path& output) {
     }
 }
 
-void OpenOrAbort(const BlockLineReader& reader, int location) {
+void OpenOrAbort(const LineReader& reader, int location) {
     if (!reader.IsOpen()) {
         Abort(kErrorFileNotFound, kFileNotFoundText, location);
     }
@@ -121,7 +121,7 @@ CatalogueCounts BuildCatalogue(const CatalogueSources& sources, DeviceRomSource&
         catver = LoadProfile(*sources.catverIni);
     }
 
-    BlockLineReader machinePass(sources.machineXml);
+    LineReader machinePass(sources.machineXml);
     OpenOrAbort(machinePass, kLocationMachinePass);
     machinePass.OnBlockRead([&progress] { progress.Pump(); });
     CatalogueBuilder builder(lists, devices, catver.get(), writers, progress);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kLocation = 40;
 
-void NextOrAbort(BlockLineReader& reader, std::string_view& line) {
+void NextOrAbort(LineReader& reader, std::string_view& line) {
     if (!reader.Next(line)) {
         Abort(kErrorPastEnd, kPastEndText, kLocation);
     }
@@ -18,7 +18,7 @@ void NextOrAbort(BlockLineReader& reader, std::string_view& line) {
 
 } // namespace
 
-NameList CollectDeviceRoms(BlockLineReader& machineXml) {
+NameList CollectDeviceRoms(LineReader& machineXml) {
     if (!machineXml.IsOpen()) {
         Abort(kErrorFileNotFound, kFileNotFoundText, kLocation);
     }

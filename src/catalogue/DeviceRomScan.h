@@ -5,7 +5,7 @@
 #include <optional>
 #include <thread>
 
-#include "BlockLineReader.h"
+#include "core/LineReader.h"
 #include "DeviceRomSource.h"
 #include "NameList.h"
 #include "RunTimeError.h"
@@ -15,7 +15,7 @@ namespace coinlight {
 /// The first pass over `machine.xml`: the short names of the device machines that have a
 /// ROM of their own, as `|name|name|`. A machine that refers to one of them needs device
 /// ROMs. Ends the routine with a read past the end when the file stops inside a device.
-NameList CollectDeviceRoms(BlockLineReader& machineXml);
+NameList CollectDeviceRoms(LineReader& machineXml);
 
 /// Runs the first pass on a thread of its own, so that the second can start at once and
 /// settle the device question for the machines it met in the meantime when this is done.
@@ -33,7 +33,7 @@ public:
     const NameList& Wait() override;
 
 private:
-    BlockLineReader m_reader;
+    LineReader m_reader;
     NameList m_deviceRoms;
     std::optional<RunTimeError> m_error;
     std::atomic<bool> m_done{false};

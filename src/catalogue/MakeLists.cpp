@@ -1,6 +1,6 @@
 #include "MakeLists.h"
 
-#include "BlockLineReader.h"
+#include "core/LineReader.h"
 #include "XmlLineScanners.h"
 
 namespace coinlight {
@@ -22,7 +22,7 @@ std::string_view WithoutIndent(std::string_view line) {
 } // namespace
 
 std::variant<MadeLists, RunTimeError> MakeLists(const std::filesystem::path& machineXml) {
-    BlockLineReader reader(machineXml);
+    LineReader reader(machineXml);
     if (!reader.IsOpen()) {
         return RunTimeError{kErrorFileNotFound, kFileNotFoundText, 1};
     }

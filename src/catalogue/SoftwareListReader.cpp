@@ -43,7 +43,7 @@ std::optional<RunTimeError> SoftwareListReader::Run() {
 }
 
 void SoftwareListReader::Scan() {
-    BlockLineReader reader(m_sources.softwareXml);
+    LineReader reader(m_sources.softwareXml);
     if (!reader.IsOpen()) {
         Abort(kErrorFileNotFound, kFileNotFoundText, kLocationOpen);
     }

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "BlockLineReader.h"
+#include "core/LineReader.h"
 #include "MachineField.h"
 #include "RunTimeError.h"
 #include "SoftwareCatalogue.h"
@@ -53,7 +53,7 @@ private:
     std::string m_list;
     AtomicFileWriter& m_out;
     std::vector<std::string> m_filterValues;
-    BlockLineReader* m_reader = nullptr;
+    LineReader* m_reader = nullptr;
     Item m_item;
     bool m_hasRom = false;
     bool m_hasDisk = false;

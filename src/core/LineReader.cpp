@@ -1,28 +1,40 @@
 #include "LineReader.h"
 
+#include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace coinlight {
 
 namespace {
-constexpr std::size_t kInitialBuffer = 1 << 20;
+
+// Large enough that system calls and hooks are rare, small enough to stay in the cache.
+constexpr std::size_t kBlockSize = 1 << 21;
+
+const char* Find(const char* from, const char* to, char c) {
+    return static_cast<const char*>(std::memchr(from, c, static_cast<std::size_t>(to - from)));
 }
 
-LineReader::LineReader(const std::filesystem::path& file) : m_buffer(kInitialBuffer) {
-    m_file = std::fopen(file.c_str(), "rb");
-    if (m_file == nullptr) {
+} // namespace
+
+LineReader::LineReader(const std::filesystem::path& file) : m_buffer(kBlockSize) {
+    m_descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (m_descriptor < 0) {
         m_failed = true;
+    } else {
+        ::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
     }
 }
 
 LineReader::~LineReader() {
-    if (m_file != nullptr) {
-        std::fclose(m_file);
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
     }
 }
 
 bool LineReader::Refill() {
-    if (m_eof || m_file == nullptr) {
+    if (m_eof || m_descriptor < 0) {
         return false;
     }
     // Keep the unfinished line at the front; grow only when one line fills the buffer.
@@ -35,36 +47,41 @@ bool LineReader::Refill() {
     if (m_end == m_buffer.size()) {
         m_buffer.resize(m_buffer.size() * 2);
     }
-    const std::size_t got = std::fread(m_buffer.data() + m_end, 1, m_buffer.size() - m_end, m_file);
-    if (got == 0) {
-        m_eof = true;
-        if (std::ferror(m_file) != 0) {
-            m_failed = true;
+    for (;;) {
+        const ssize_t got = ::read(m_descriptor, m_buffer.data() + m_end, m_buffer.size() - m_end);
+        if (got < 0 && errno == EINTR) {
+            continue;
         }
-        return false;
+        if (got <= 0) {
+            m_eof = true;
+            m_failed = got < 0;
+            return false;
+        }
+        m_end += static_cast<std::size_t>(got);
+        break;
     }
-    m_end += got;
+    if (m_onBlockRead) {
+        m_onBlockRead();
+    }
     return true;
 }
 
-bool LineReader::Next(std::string_view& line) {
-    if (m_file == nullptr) {
-        return false;
+std::string_view LineReader::TakeLine(std::size_t end, std::size_t next) {
+    const std::size_t begin = m_begin;
+    if (end > begin && m_buffer[end - 1] == '\r') {
+        --end;
     }
+    m_begin = next;
+    return {m_buffer.data() + begin, end - begin};
+}
+
+bool LineReader::Next(std::string_view& line) {
     std::size_t searchFrom = m_begin;
     for (;;) {
-        const char* start = m_buffer.data() + searchFrom;
-        const auto* newline =
-            static_cast<const char*>(std::memchr(start, '\n', m_end - searchFrom));
-        if (newline != nullptr) {
-            const std::size_t lineEnd = static_cast<std::size_t>(newline - m_buffer.data());
-            std::size_t length = lineEnd - m_begin;
-            if (length > 0 && m_buffer[lineEnd - 1] == '\r') {
-                --length;
-            }
-            line = std::string_view(m_buffer.data() + m_begin, length);
-            m_consumed += lineEnd + 1 - m_begin;
-            m_begin = lineEnd + 1;
+        const char* base = m_buffer.data();
+        if (const char* newline = Find(base + searchFrom, base + m_end, '\n')) {
+            const auto end = static_cast<std::size_t>(newline - base);
+            line = TakeLine(end, end + 1);
             return true;
         }
         const std::size_t scanned = m_end - m_begin;
@@ -72,16 +89,42 @@ bool LineReader::Next(std::string_view& line) {
             if (m_end == m_begin) {
                 return false;
             }
-            std::size_t length = m_end - m_begin;
-            if (m_buffer[m_end - 1] == '\r') {
-                --length;
-            }
-            line = std::string_view(m_buffer.data() + m_begin, length);
-            m_consumed += m_end - m_begin;
-            m_begin = m_end;
+            line = TakeLine(m_end, m_end);
             return true;
         }
         searchFrom = m_begin + scanned;
+    }
+}
+
+bool LineReader::NextHolding(std::string_view needle, std::string_view& line) {
+    if (needle.empty()) {
+        return Next(line);
+    }
+    for (;;) {
+        const char* base = m_buffer.data();
+        const auto* hit = static_cast<const char*>(
+            ::memmem(base + m_begin, m_end - m_begin, needle.data(), needle.size()));
+        if (hit == nullptr) {
+            // Only the last, unfinished line can still turn out to hold it.
+            const char* lastNewline =
+                static_cast<const char*>(::memrchr(base + m_begin, '\n', m_end - m_begin));
+            if (lastNewline != nullptr) {
+                m_begin = static_cast<std::size_t>(lastNewline - base) + 1;
+            }
+            if (!Refill()) {
+                m_begin = m_end;
+                return false;
+            }
+            continue;
+        }
+        const auto hitAt = static_cast<std::size_t>(hit - base);
+        const char* previousNewline =
+            static_cast<const char*>(::memrchr(base + m_begin, '\n', hitAt - m_begin));
+        if (previousNewline != nullptr) {
+            m_begin = static_cast<std::size_t>(previousNewline - base) + 1;
+        }
+        // The line that holds it may run past the block; Next reads the rest.
+        return Next(line);
     }
 }
 

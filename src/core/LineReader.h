@@ -1,17 +1,17 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
-#include <string>
+#include <functional>
 #include <string_view>
 #include <vector>
 
 namespace coinlight {
 
-/// Reads a text file line by line without holding it whole, so that a 270 MB machine list
-/// costs a buffer, not its size. Lines end at LF; a CR before the LF is dropped, and a last
-/// line without LF still counts. Bytes pass through unchanged.
+/// Reads MAME's list files (hundreds of megabytes) in large blocks without ever holding
+/// them whole. Besides line by line it can jump to the next line that holds a text,
+/// searching the block rather than each line, which is what makes skipping most of a file
+/// cheap. Lines end at LF; a CR before the LF is dropped; a last line without LF counts.
 class LineReader {
 public:
     explicit LineReader(const std::filesystem::path& file);
@@ -19,27 +19,32 @@ public:
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
 
-    bool IsOpen() const { return m_file != nullptr; }
+    bool IsOpen() const { return m_descriptor >= 0; }
+    /// True when a read failed, as opposed to reaching the end.
+    bool Failed() const { return m_failed; }
+
+    /// Called after each block is read (every few megabytes), so that a long scan can let
+    /// the interface breathe.
+    void OnBlockRead(std::function<void()> hook) { m_onBlockRead = std::move(hook); }
 
     /// The next line, valid until the following call; false at the end of the file.
     bool Next(std::string_view& line);
 
-    /// True when a read failed (as opposed to reaching the end).
-    bool Failed() const { return m_failed; }
-
-    /// Bytes consumed so far, for progress reports.
-    std::uint64_t Position() const { return m_consumed; }
+    /// The next line that holds `needle`, passing over the lines before it; false when the
+    /// file ends first.
+    bool NextHolding(std::string_view needle, std::string_view& line);
 
 private:
     bool Refill();
+    std::string_view TakeLine(std::size_t end, std::size_t next);
 
-    std::FILE* m_file = nullptr;
+    int m_descriptor = -1;
     std::vector<char> m_buffer;
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
-    std::uint64_t m_consumed = 0;
     bool m_eof = false;
     bool m_failed = false;
+    std::function<void()> m_onBlockRead;
 };
 
 } // namespace coinlight

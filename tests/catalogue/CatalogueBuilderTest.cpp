@@ -39,7 +39,7 @@ BuiltFiles Build(const std::string& xml, bool lateDevices) {
     CatalogueWriters writers(folder.Path());
     RecordingProgress progress;
     CatalogueBuilder builder(lists, devices, nullptr, writers, progress);
-    BlockLineReader reader(folder / "machine.xml");
+    LineReader reader(folder / "machine.xml");
     BuiltFiles built;
     try {
         builder.Run(reader);

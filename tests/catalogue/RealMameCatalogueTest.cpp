@@ -4,7 +4,7 @@
 #include <set>
 
 #include "CatalogueTestSupport.h"
-#include "catalogue/BlockLineReader.h"
+#include "core/LineReader.h"
 #include "catalogue/QuotedRecordFile.h"
 #include "catalogue/RunMAMEList.h"
 #include "catalogue/SoftwareCatalogue.h"
@@ -22,7 +22,7 @@ const std::filesystem::path kMame = "/usr/games/mame";
 /// every machine with a screen that is neither a device, a BIOS set nor MAME's own.
 std::set<std::string> DisplayedMachines(const std::filesystem::path& machineXml) {
     std::set<std::string> machines;
-    BlockLineReader reader(machineXml);
+    LineReader reader(machineXml);
     std::string_view line;
     std::string name;
     bool counts = false;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 #include <variant>
 
-#include "catalogue/BlockLineReader.h"
+#include "core/LineReader.h"
 #include "catalogue/MakeLists.h"
 #include "support/TestFiles.h"
 
 using namespace coinlight;
 using namespace coinlight::test;
 
-TEST(BlockLineReader, LinesAcrossBlocksAndLongerThanABlock) {
+TEST(LineReader, LinesAcrossBlocksAndLongerThanABlock) {
     TempFolder folder;
     std::string text;
     std::vector<std::string> expected;
@@ -23,7 +23,7 @@ TEST(BlockLineReader, LinesAcrossBlocksAndLongerThanABlock) {
     text += expected.back();
     WriteFile(folder / "big.txt", text);
 
-    BlockLineReader reader(folder / "big.txt");
+    LineReader reader(folder / "big.txt");
     std::string_view line;
     std::size_t index = 0;
     while (reader.Next(line)) {
@@ -34,7 +34,7 @@ TEST(BlockLineReader, LinesAcrossBlocksAndLongerThanABlock) {
     EXPECT_EQ(index, expected.size());
     EXPECT_FALSE(reader.Failed());
 
-    BlockLineReader search(folder / "big.txt");
+    LineReader search(folder / "big.txt");
     ASSERT_TRUE(search.NextHolding("line 40000x", line));
     EXPECT_EQ(line.substr(0, 11), "line 40000x");
     ASSERT_TRUE(search.NextHolding("needle", line));
@@ -42,7 +42,7 @@ TEST(BlockLineReader, LinesAcrossBlocksAndLongerThanABlock) {
     ASSERT_TRUE(search.Next(line));
     EXPECT_EQ(line, "last without end");
     EXPECT_FALSE(search.NextHolding("line", line));
-    EXPECT_FALSE(BlockLineReader(folder / "missing.txt").IsOpen());
+    EXPECT_FALSE(LineReader(folder / "missing.txt").IsOpen());
 }
 
 TEST(MakeLists, DevicesAreLeftOutAndSoftwareOrCoinlessMachinesAreOther) {
