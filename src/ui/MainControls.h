@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -18,6 +19,7 @@ class QMainWindow;
 namespace coinlight {
 
 class MachineListView;
+class SettingsPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -28,8 +30,17 @@ enum LinkIndex : int {
     LinkStart = 4,
     LinkAudit = 5,
     LinkInfo = 6,
+    LinkOK = 7,
+    LinkRestore = 8,
+    LinkCancel = 9,
     LinkReturnList1 = 11,
-    kLinkCount = 12,
+    LinkHLSLPath = 19,
+    LinkHLSLDefaults = 20,
+    LinkYIQDefaults = 21,
+    LinkVectorPostDefaults = 22,
+    LinkBloomPostDefaults = 23,
+    LinkBGFXPath = 24,
+    kLinkCount = 25,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -46,13 +57,19 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuToolsArcade = nullptr;
+    QAction* mnuToolsOther = nullptr;
+    QAction* mnuToolsCustom = nullptr;
+    QAction* mnuToolsRebuild = nullptr;
+    QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
-    QGroupBox* fraDefaults = nullptr;
+    SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
@@ -77,6 +94,7 @@ struct MainControls {
     QPushButton* cmdInfo = nullptr;
     QPushButton* cmdArcadeSettings = nullptr;
     QPushButton* cmdOtherSettings = nullptr;
+    QComboBox* cboSettings = nullptr; // the class profile of an arcade settings screen
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;

@@ -15,6 +15,7 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -45,7 +46,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
-    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
     for (auto [box, which] :
@@ -77,6 +78,7 @@ void frmMain::ConnectControls() {
                 [this, list](int column) { SortColumn(*list, column); });
         connect(list, &MachineListView::RowSelected, this, [this, list] { ShowDetails(*list); });
     }
+    ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
@@ -87,8 +89,46 @@ void frmMain::ConnectControls() {
 
 void frmMain::LinkClicked(int index) {
     switch (index) {
+    case LinkArcadeSettings:
+        SettingsArcade();
+        break;
+    case LinkOtherSettings:
+        SettingsOther();
+        break;
     case LinkExit:
-        close();
+        // On a settings screen the command reads Cancel and leaves the screen.
+        if (SettingsScreenOpen()) {
+            Cancel();
+        } else {
+            close();
+        }
+        break;
+    case LinkOK:
+        OK();
+        break;
+    case LinkRestore:
+        Restore();
+        break;
+    case LinkCancel:
+        Cancel();
+        break;
+    case LinkHLSLPath:
+        HLSLPath();
+        break;
+    case LinkHLSLDefaults:
+        SetDefaultsOf(DefaultsGroup::HLSL);
+        break;
+    case LinkYIQDefaults:
+        SetDefaultsOf(DefaultsGroup::YIQ);
+        break;
+    case LinkVectorPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Vector);
+        break;
+    case LinkBloomPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Bloom);
+        break;
+    case LinkBGFXPath:
+        BGFXPath();
         break;
     case LinkStart:
         if (m_inOtherView) {
@@ -299,6 +339,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     QWidget* page = m_controls.pages->currentWidget();
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
+    } else if (page == m_controls.fraDefaults) {
+        OK();
     } else if (page == m_controls.fraVerify) {
         ReturnList1();
     } else if (page == m_controls.fraMaintenance) {

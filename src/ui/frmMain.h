@@ -16,6 +16,9 @@
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "settings/ProfileSave.h"
+#include "settings/SettingsOk.h"
+#include "settings/SettingsScreens.h"
 #include "settings/StartBoxes.h"
 
 namespace coinlight {
@@ -68,6 +71,16 @@ public:
     void PlayOther();
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
+
+    // Settings screens
+    void SettingsArcade();
+    void SettingsOther();
+    void CustomSettings();
+    void OK();
+    void Cancel();
+    void Restore();
+    void RebuildSettings();
+    void RebuildReport();
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -141,6 +154,32 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Settings screens' steps
+    void ConnectSettingsControls();
+    void DefineCombos();
+    void LoadcboBIOS();
+    void ChooseProfileName();
+    void cboSettingsClicked();
+    void RasterSettings();
+    void VectorSettings();
+    void LCDSettings();
+    void ShowSettingsScreen(SettingsScreen screen);
+    void LoadControls();
+    void ShowRuleFailures(const std::vector<UserMessage>& failures);
+    void CoverCommands();
+    void UncoverCommands();
+    void LeaveSettings();
+    bool SettingsScreenOpen() const;
+    void UpdateSettingsMenu();
+    void SetDefaultsOf(DefaultsGroup group);
+    void BGFXPath();
+    void HLSLPath();
+    void ShaderFolder(const char* what, const char* control);
+    void GLSLShader(int index);
+    void SelectControllerMap();
+    void ShowRebuildText(const QString& caption, const std::string& text);
+    SettingsScreenFacts ScreenFacts() const;
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -178,8 +217,17 @@ private:
     std::vector<std::string> m_artworkFolders;
     std::string m_cabinetPath; // where the cabinet pictures lie
     std::vector<std::string> m_softwareFolders;
-    std::string m_profileName;   // the class profile in force (ProfileName)
-    std::string m_commandString; // "Other Commands", then the last command line
+    std::string m_profileName;                  // the class profile in force (ProfileName)
+    std::string m_commandString;                // "Other Commands", then the last command line
+    std::string m_displayType;                  // of the machine a settings screen opened for
+    std::string m_selectedMachine;              // likewise
+    std::filesystem::path m_currentProfilePath; // the profile the last load or save used
+    struct CoveredCommand {
+        QWidget* widget;
+        bool enabled;
+        bool visible;
+    };
+    std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
