@@ -71,6 +71,8 @@ void CleanForSave(OptionValues& values) {
 bool SaveProfileValues(const std::filesystem::path& profile, OptionValues& values,
                        std::string* error) {
     CleanForSave(values);
+    std::error_code ignored; // a folder that cannot be made shows in the write's error
+    std::filesystem::create_directories(profile.parent_path(), ignored);
     return WriteOptionValues(profile, values, error);
 }
 

@@ -70,6 +70,8 @@ RebuildOutcome RebuildSettings(const DataLayout& data, ComboChoices choices,
         return outcome;
     }
     outcome.text = std::string(kRebuildHeader) + lines;
+    std::error_code ignored; // a folder that cannot be made shows in the write's error
+    std::filesystem::create_directories(report.parent_path(), ignored);
     std::string error;
     if (!WriteFileBytes(report, outcome.text, &error) && !outcome.failure) {
         outcome.failure = RoutineError("Error In RebuildSettings", error, 6);

@@ -50,8 +50,13 @@ int RebuildSettingsCommand(const ToolArguments& arguments) {
     }
     Preferences preferences;
     const OptionsReadResult read = ReadOptionsIni(data.OptionsIni(), preferences);
+    if (read.status == OptionsReadStatus::VersionTooOld) {
+        return Fail(data.OptionsIni().string() + " was written by an older release (" +
+                    read.detail + ")");
+    }
     if (read.status != OptionsReadStatus::Ok) {
-        return Fail(data.OptionsIni().string() + " cannot be used: " + read.detail);
+        return Fail(data.OptionsIni().string() +
+                    " holds a value that does not convert: " + read.detail);
     }
     if (SettingsFiles(data).empty()) {
         std::cout << "There are no setting files.\n";
