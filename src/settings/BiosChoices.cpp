@@ -32,13 +32,16 @@ BiosChoices ClassBiosChoices() {
 }
 
 BiosChoices MachineBiosChoices(const std::filesystem::path& biosIni, std::string_view machine) {
+    return MachineBiosChoices(*LoadProfile(biosIni), machine);
+}
+
+BiosChoices MachineBiosChoices(const ProfileDocument& biosIni, std::string_view machine) {
     BiosChoices choices;
-    const auto document = LoadProfile(biosIni);
-    const auto stored = document->Find("BIOS", machine);
+    const auto stored = biosIni.Find("BIOS", machine);
     if (stored && stored->size() > kProfileValueLimit) {
         choices.overflowLength = stored->size();
     }
-    const std::string value = ReadProfileValue(*document, "BIOS", machine, kDefault);
+    const std::string value = ReadProfileValue(biosIni, "BIOS", machine, kDefault);
     if (value != kDefault) {
         choices.items.emplace_back(kDefault);
     }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/ProfileDocument.h"
 #include "core/UserMessage.h"
 
 namespace coinlight {
@@ -23,6 +24,8 @@ BiosChoices ClassBiosChoices();
 /// The entries of a machine in section BIOS of output/bios.ini (";;"-separated, each
 /// "description> name"), after "Default". A machine without an entry offers "Default" alone.
 BiosChoices MachineBiosChoices(const std::filesystem::path& biosIni, std::string_view machine);
+/// The same from bios.ini already read, for many machines in a row.
+BiosChoices MachineBiosChoices(const ProfileDocument& biosIni, std::string_view machine);
 
 /// Asks the user to report a bios.ini value too long to read.
 UserMessage BiosOverflowMessage(std::size_t length);

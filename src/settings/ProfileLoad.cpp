@@ -5,6 +5,7 @@
 
 #include "OptionCatalogue.h"
 #include "core/ProfileFile.h"
+#include "core/TextFile.h"
 
 namespace coinlight {
 
@@ -94,7 +95,16 @@ UserMessage RefusalMessage(std::size_t row, std::string_view screenCaption) {
 std::optional<std::vector<std::size_t>> RepairProfile(const std::filesystem::path& profile,
                                                       const ComboChoices& choices,
                                                       std::string* error) {
-    LoadedProfile loaded = LoadProfileValues(profile, choices);
+    // Read past the shared cache: a rebuild reads thousands of profiles once each, and
+    // keeping them parsed would only cost time and memory.
+    auto bytes = ReadFileBytes(profile);
+    if (!bytes) {
+        if (error != nullptr) {
+            *error = "Cannot read " + profile.string();
+        }
+        return std::nullopt;
+    }
+    LoadedProfile loaded = LoadProfileValues(ProfileDocument(std::move(*bytes)), choices);
     if (loaded.refused.empty()) {
         return std::move(loaded.refused);
     }
@@ -103,7 +113,9 @@ std::optional<std::vector<std::size_t>> RepairProfile(const std::filesystem::pat
     for (std::size_t row : loaded.refused) {
         editor.Set(catalogue[row].section, catalogue[row].key, catalogue[row].defaultValue);
     }
-    if (!editor.Commit(true, error)) {
+    const bool written = editor.Commit(true, error);
+    ForgetProfile(profile);
+    if (!written) {
         return std::nullopt;
     }
     return std::move(loaded.refused);

@@ -34,7 +34,7 @@ RebuildOutcome RebuildSettings(const DataLayout& data, ComboChoices choices,
                                const RebuildProgress& progress) {
     RebuildOutcome outcome;
     const auto files = SettingsFiles(data);
-    const auto biosIni = data.Output() / "bios.ini";
+    const auto biosIni = LoadProfile(data.Output() / "bios.ini");
     const auto catalogue = OptionCatalogue();
     std::string lines;
     for (std::size_t done = 0; done < files.size(); ++done) {
@@ -42,11 +42,9 @@ RebuildOutcome RebuildSettings(const DataLayout& data, ComboChoices choices,
         const std::string name = file.filename().string();
         choices.SetBiosItems(IsClassProfileFileName(name)
                                  ? ClassBiosChoices().items
-                                 : MachineBiosChoices(biosIni, file.stem().string()).items);
+                                 : MachineBiosChoices(*biosIni, file.stem().string()).items);
         std::string error;
         const auto repaired = RepairProfile(file, choices, &error);
-        // Thousands of profiles are read once each: none of them is worth keeping parsed.
-        ForgetProfile(file);
         if (!repaired) {
             outcome.failure = RoutineError("Error In RebuildSettings", error, 4);
             break;
