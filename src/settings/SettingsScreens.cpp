@@ -121,7 +121,7 @@ std::string RestoreClassProfile(std::string_view displayType, std::string_view p
     return std::string(profileName);
 }
 
-FolderChoice CheckShaderFolder(std::string_view what, std::string_view chosen) {
+ShaderFolderChoice CheckShaderFolder(std::string_view what, std::string_view chosen) {
     // The root, or something that is no folder path at all, cannot hold the shaders.
     const std::filesystem::path folder(chosen);
     if (chosen.empty() || !folder.is_absolute() || folder == folder.root_path()) {

@@ -46,12 +46,12 @@ RestoreCaptions ClassRestoreCaptions();
 std::string RestoreClassProfile(std::string_view displayType, std::string_view profileName);
 
 /// A folder chosen for BGFX or HLSL: where it may go, or why not.
-struct FolderChoice {
+struct ShaderFolderChoice {
     std::optional<std::string> value;   // what the box takes
     std::optional<UserMessage> refusal; // then the box takes its default
 };
 /// `what` is "BGFX" or "HLSL". The root cannot hold either.
-FolderChoice CheckShaderFolder(std::string_view what, std::string_view chosen);
+ShaderFolderChoice CheckShaderFolder(std::string_view what, std::string_view chosen);
 
 /// A chosen GLSL shader as its box holds it: the path without its extension.
 std::string GLSLShaderValue(std::string_view chosen);

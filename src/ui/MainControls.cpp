@@ -210,12 +210,12 @@ QWidget* BuildSideColumn(MainControls& c) {
         AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
     layout->addWidget(c.cmdArcadeSettings);
     layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
-    layout->addWidget(c.cmdOtherSettings);
-    layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     c.cboSettings = Named(new QComboBox(side), QStringLiteral("cboSettings"));
     c.cboSettings->setToolTip(QStringLiteral("The Class Of Machines These Settings Are For"));
     c.cboSettings->hide();
     layout->addWidget(c.cboSettings);
+    layout->addWidget(c.cmdOtherSettings);
+    layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
     c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));

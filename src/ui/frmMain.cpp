@@ -282,10 +282,9 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 bool frmMain::HasCommand(int link) const {
-    // The settings screens, the audit and the information panel are not built yet: their
-    // buttons and links stay out of sight until they are.
-    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkAudit &&
-           link != LinkInfo;
+    // The audit and the information panel are not built yet: their buttons and links stay
+    // out of sight until they are.
+    return link != LinkAudit && link != LinkInfo;
 }
 
 void frmMain::SetStartCommands(bool enabled) {

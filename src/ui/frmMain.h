@@ -173,7 +173,9 @@ private:
     void ShowSettingsScreen(SettingsScreen screen);
     void LoadControls();
     void ShowRuleFailures(const std::vector<UserMessage>& failures);
-    void CoverCommands();
+    /// Disables what a page over the lists must not be used with; a settings screen also
+    /// turns Exit into Cancel.
+    void CoverCommands(bool settingsScreen);
     void UncoverCommands();
     void LeaveSettings();
     bool SettingsScreenOpen() const;

@@ -216,7 +216,7 @@ void frmMain::ShowSettingsScreen(SettingsScreen screen) {
         PanelTextHide();
     }
     c.lblScroll->clear();
-    CoverCommands();
+    CoverCommands(true);
     ShowPage(&page);
     page.setTitle(ToQString(ScreenCaption(screen)));
     const auto profile = ProfilePath(m_context.data, ToLowerAscii(m_profileName));
@@ -243,7 +243,7 @@ void frmMain::CustomSettings() {
     }
     DefineCombos();
     page.setTitle(ToQString(kCustomSettingsCaption));
-    CoverCommands();
+    CoverCommands(true);
     m_selectedMachine = std::string(row->ShortName());
     m_displayType = m_inOtherView ? "Other" : std::string(row->Field(ColImages).substr(0, 6));
     LoadcboBIOS();
@@ -295,7 +295,7 @@ void frmMain::ShowRuleFailures(const std::vector<UserMessage>& failures) {
     }
 }
 
-void frmMain::CoverCommands() {
+void frmMain::CoverCommands(bool settingsScreen) {
     const MainControls& c = m_controls;
     if (m_coveredCommands.empty()) {
         for (QWidget* widget :
@@ -321,9 +321,11 @@ void frmMain::CoverCommands() {
                             static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
         widget->setEnabled(false);
     }
-    c.cmdExit->setText(QStringLiteral("&Cancel"));
-    c.cmdExit->setToolTip(QStringLiteral("Returns To The Machine List Without Saving"));
-    SetLinkText(c.lblBLinks[LinkExit], QStringLiteral("Cancel"));
+    if (settingsScreen) {
+        c.cmdExit->setText(QStringLiteral("&Cancel"));
+        c.cmdExit->setToolTip(QStringLiteral("Returns To The Machine List Without Saving"));
+        SetLinkText(c.lblBLinks[LinkExit], QStringLiteral("Cancel"));
+    }
 }
 
 void frmMain::UncoverCommands() {
@@ -398,7 +400,7 @@ void frmMain::ShaderFolder(const char* what, const char* control) {
     }
     const std::size_t row = RowOfControl(control);
     auto* box = static_cast<QLineEdit*>(page.Control(row));
-    const FolderChoice choice = CheckShaderFolder(what, chosen->toStdString());
+    const ShaderFolderChoice choice = CheckShaderFolder(what, chosen->toStdString());
     if (choice.refusal) {
         ShowMessage(m_prompter, *choice.refusal);
         box->setText(ToQString(OptionCatalogue()[row].defaultValue));
@@ -464,7 +466,7 @@ void frmMain::RebuildSettings() {
     c.fraVerify->setTitle(QStringLiteral("Rebuild Settings"));
     c.rtfVerify->clear();
     ShowPage(c.fraVerify);
-    CoverCommands();
+    CoverCommands(false);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const RebuildOutcome outcome = coinlight::RebuildSettings(
         m_context.data, c.fraDefaults->Choices(), [this](std::size_t done, std::size_t total) {

@@ -55,7 +55,7 @@ TEST(SettingsScreens, DisplayTypesCaptionsAndRestoreWording) {
 
 TEST(SettingsScreens, ShaderFoldersCannotBeTheRoot) {
     for (const char* root : {"/", "", "relative/folder"}) {
-        const FolderChoice choice = CheckShaderFolder("HLSL", root);
+        const ShaderFolderChoice choice = CheckShaderFolder("HLSL", root);
         EXPECT_FALSE(choice.value) << root;
         ASSERT_TRUE(choice.refusal);
         EXPECT_EQ(choice.refusal->title, "HLSL Path");
