@@ -327,10 +327,9 @@ TEST_F(MainWindow, NoControlOffersACommandThatDoesNotExist) {
     ASSERT_TRUE(Load()) << Told();
     Form().show();
     const MainControls& c = Controls();
-    for (QWidget* control :
-         {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
-          static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
-          static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
+    for (QWidget* control : {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
+                             static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
+                             static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
         EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
     }
     // The settings screens exist: their links stand in for the buttons, as the rest do.

@@ -182,6 +182,13 @@ TEST_F(SettingsScreen, TheRulesFollowTheUsersClicks) {
     Form().SettingsArcade();
     Control<QCheckBox>("chkThrottle")->click();
     EXPECT_FALSE(Enabled("chkSleep"));
+    // A control held back (an option this MAME does not know) stays so whatever the rules say.
+    Page().SetRowAllowed(RowOfControl("chkSleep"), false, QStringLiteral("Not in this MAME"));
+    Control<QCheckBox>("chkThrottle")->click();
+    EXPECT_FALSE(Enabled("chkSleep"));
+    EXPECT_EQ(Control("chkSleep")->toolTip(), "Not in this MAME");
+    Page().SetRowAllowed(RowOfControl("chkSleep"), true);
+    EXPECT_TRUE(Enabled("chkSleep"));
     Control<QCheckBox>("chkAutoStretchXY")->click();
     EXPECT_FALSE(Enabled("chkUnevenStretchX"));
     Choose("cboNumScreens", "2");
