@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 using test::ReadFile;
 using test::TempFolder;
 
-TEST(CommandRunner, RunsInTheGivenFolderWithRedirectionsHonoured) {
+TEST(CommandRunner, RunsInTheGivenFolderHonoursRedirectionsAndGivesTheExitStatus) {
     TempFolder folder;
     const auto work = folder / "MAME folder";
     std::filesystem::create_directories(work);
@@ -25,11 +25,7 @@ TEST(CommandRunner, RunsInTheGivenFolderWithRedirectionsHonoured) {
     EXPECT_EQ(result.outcome, ExecOutcome::Finished);
     EXPECT_EQ(ReadFile(out), work.string() + "\n");
     EXPECT_EQ(result.exitStatus, 0);
-}
-
-TEST(CommandRunner, ReportsTheExitStatus) {
-    TempFolder folder;
-    EXPECT_EQ(ExecCmd("exit 3", folder.Path(), nullptr).exitStatus, 3);
+    EXPECT_EQ(ExecCmd("exit 3", work, nullptr).exitStatus, 3);
 }
 
 TEST(CommandRunner, AQuickChildIsNeverPumpedASlowOneIsPumpedEveryInterval) {

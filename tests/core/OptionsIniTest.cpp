@@ -110,8 +110,6 @@ TEST(OptionsIni, AbsentKeysKeepTheirDefaults) {
         ReadText(folder, "[Miscellaneous]\r\nCoinlight Version=26.01.0\r\n", preferences).status,
         OptionsReadStatus::Ok);
     EXPECT_EQ(preferences.other.theme, "Heritage");
-    EXPECT_EQ(preferences.other.listFontSize, "10");
-    EXPECT_EQ(preferences.other.guiFont, "Verdana");
     EXPECT_TRUE(preferences.other.useLinks);
     EXPECT_EQ(preferences.other.gradientColor, Colour{0x80000010u});
     EXPECT_EQ(preferences.view.listView, "All Arcade Machines");
