@@ -67,19 +67,5 @@ TEST(CommandRunner, AVanishedMameFolderGivesTheDriveMessageAndRunsNothing) {
     EXPECT_FALSE(std::filesystem::exists(out));
 }
 
-TEST(CommandRunner, RunsTheFakeEmulatorThroughACommandLine) {
-    TempFolder folder;
-    const auto mame = test::InstallFakeMame(folder / "mame dir $1", "fake-mame", "mame exe");
-    const auto out = folder / "temp" / "machine.xml";
-    std::filesystem::create_directories(out.parent_path());
-    CommandLine line(mame.folder, mame.executable);
-    line.Word("-listxml").Word("-nodtd").RedirectOutput(out);
-    EXPECT_EQ(ExecCmd(line.Text(), mame.folder, nullptr).outcome, ExecOutcome::Finished);
-    EXPECT_EQ(ReadFile(out), ReadFile(mame.Data() / "listxml.xml"));
-    EXPECT_NE(ReadFile(mame.Launches()).find(mame.folder.string() + "\t-listxml\t-nodtd"),
-              std::string::npos)
-        << "the child runs in the MAME folder";
-}
-
 } // namespace
 } // namespace coinlight

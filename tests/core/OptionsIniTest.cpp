@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/ProfileFile.h"
 #include "support/TestFiles.h"
 
 namespace coinlight {
@@ -267,7 +266,6 @@ TEST(OptionsIni, DiscardDeletesTheFileAndForgetsWhatWasRead) {
     EXPECT_TRUE(preferences.searchPaths.arcadeRoms.empty());
     EXPECT_TRUE(preferences.biosFilter.empty());
     EXPECT_EQ(preferences.other.theme, "Heritage");
-    EXPECT_EQ(ReadProfileValue(file, "MAME", "Executable", "none"), "none");
 }
 
 } // namespace

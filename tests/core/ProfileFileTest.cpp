@@ -66,7 +66,7 @@ TEST(ProfileFile, WritesReplaceTheFileWithoutLeavingTemporaries) {
     EXPECT_EQ(ReadProfileValue(file, "b", "Y", ""), "4");
 }
 
-TEST(ProfileFile, AWriteThatCannotHappenFailsWithAReasonAndLeavesNothing) {
+TEST(ProfileFile, AReplaceThatCannotHappenFailsWithAReasonAndLeavesNothing) {
     TempFolder folder;
     // A folder where the file should be: the final rename fails, even for root.
     std::filesystem::create_directories(folder / "taken.ini" / "inside");
@@ -75,9 +75,6 @@ TEST(ProfileFile, AWriteThatCannotHappenFailsWithAReasonAndLeavesNothing) {
     EXPECT_FALSE(error.empty());
     EXPECT_TRUE(std::filesystem::is_directory(folder / "taken.ini" / "inside"));
     EXPECT_EQ(test::CountFiles(folder.Path()), 0u);
-    error.clear();
-    EXPECT_FALSE(WriteProfileValue(folder / "no" / "such.ini", "S", "k", "v", &error));
-    EXPECT_NE(error.find("no"), std::string::npos);
 }
 
 TEST(ProfileFile, DeletesKeysClearsAndRemovesSections) {
