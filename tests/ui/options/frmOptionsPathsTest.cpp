@@ -75,17 +75,7 @@ TEST_F(OptionsDialog, ChoosingMameFillsOnlyTheEmptyFields) {
     EXPECT_EQ(m_prompter.Prompts()[0].title, "Select your MAME executable.");
 }
 
-TEST_F(OptionsDialog, MameInTheRootIsRefusedAndNothingIsFilled) {
-    auto form = Open();
-    m_prompter.Queue(QStringLiteral("/mame"));
-    Click(*form, "cmdSelectMAME");
-    EXPECT_EQ(Messages(), Texts{"MAME should not reside in the root."});
-    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
-    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
-    EXPECT_EQ(Text(*form, "txtSamPath"), "");
-}
-
-TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
+TEST_F(OptionsDialog, TheBrowsersAddToMultiPathFieldsAndRefuseTheRoot) {
     auto form = Open();
     SetText(*form, "txtArcadeROMPath", "/a");
     m_prompter.Queue(QStringLiteral("/Mixed Case"));
@@ -110,6 +100,13 @@ TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
               (Texts{"Samples should not reside in the root.  Please select a folder.",
                      "Arcade ROMs should not reside in the root.  Please select a folder."}));
     EXPECT_EQ(m_prompter.Prompts().back().title, "Coinlight");
+
+    m_prompter.Queue(QStringLiteral("/mame"));
+    Click(*form, "cmdSelectMAME");
+    EXPECT_EQ(Messages().back(), "MAME should not reside in the root.");
+    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
+    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
+    EXPECT_EQ(Text(*form, "txtSamPath"), "") << "nothing is filled around a refused MAME";
 }
 
 TEST_F(OptionsDialog, OkCleansDoubledSeparatorsAndSavesOutputFoldersUnchecked) {
