@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "chrome/TitleArea.h"
 #include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
@@ -22,13 +23,6 @@ QString IndexedName(const char* name, int index) {
     return QStringLiteral("%1_%2").arg(QString::fromLatin1(name)).arg(index);
 }
 
-QAction* AddAction(QMenu* menu, const char* name, const QString& caption, bool checkable = false) {
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setCheckable(checkable);
-    return action;
-}
-
 QPushButton* AddButton(QWidget* parent, const char* name, const QString& caption,
                        const QString& tip = {}) {
     auto* button = Named(new QPushButton(caption, parent), QString::fromLatin1(name));
@@ -41,42 +35,6 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
     auto* link = Named(new LinkLabel(caption, parent), IndexedName("lblBLinks", index));
     controls.lblBLinks[static_cast<std::size_t>(index)] = link;
     return link;
-}
-
-void BuildMenus(QMainWindow& window, MainControls& c) {
-    QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
-    main->setObjectName(QStringLiteral("mnuMain"));
-    c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
-
-    c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
-    c.mnuView->setObjectName(QStringLiteral("mnuView"));
-    c.mnuViewAll = AddAction(c.mnuView, "mnuViewAll", QStringLiteral("All Arcade Machines"), true);
-    c.mnuViewAvailable =
-        AddAction(c.mnuView, "mnuViewAvailable", QStringLiteral("Available Arcade Machines"), true);
-    c.mnuViewUnavailable = AddAction(c.mnuView, "mnuViewUnavailable",
-                                     QStringLiteral("Unavailable Arcade Machines"), true);
-    c.mnuViewArcadeFavorites = AddAction(c.mnuView, "mnuViewArcadeFavorites",
-                                         QStringLiteral("Favorite Arcade Machines"), true);
-    c.mnuView->addSeparator();
-    c.mnuViewOtherMachines =
-        AddAction(c.mnuView, "mnuViewOtherMachines", QStringLiteral("Other Machines"), true);
-    c.mnuViewOtherFavorites = AddAction(c.mnuView, "mnuViewOtherFavorites",
-                                        QStringLiteral("Favorite Other Machines"), true);
-    c.mnuView->addSeparator();
-    c.mnuViewShots = AddAction(c.mnuView, "mnuViewShots", QStringLiteral("Snapshots"), true);
-
-    QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
-    tools->setObjectName(QStringLiteral("mnuTools"));
-    c.mnuTools = tools;
-    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
-    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
-    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
-    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
-    // The report belongs to the reports menu once there is one.
-    c.mnuReportsRebuild =
-        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
-    tools->addSeparator();
-    c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
 QWidget* BuildListFrame(MainControls& c) {
@@ -222,9 +180,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     c.picSoftware->hide();
     layout->addWidget(c.picSoftware);
     layout->addStretch();
-    c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
-    c.lblVersion->setAlignment(Qt::AlignCenter);
-    layout->addWidget(c.lblVersion);
     layout->addWidget(c.cmdExit);
     layout->addWidget(AddLink(side, c, LinkExit, QStringLiteral("Exit")));
     side->setFixedWidth(2430 / 15 + 40);
@@ -239,7 +194,7 @@ void SetLinkText(LinkLabel* link, const QString& text) {
 
 MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
-    BuildMenus(window, c);
+    BuildTitleArea(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);
@@ -268,9 +223,7 @@ MainControls BuildMainControls(QMainWindow& window) {
     c.lblScroll = Named(new QLabel, QStringLiteral("lblScroll"));
     c.lblScroll->setTextInteractionFlags(Qt::TextSelectableByMouse);
     bottom->addWidget(c.lblScroll, 1);
-    c.lblClrMAME = Named(new QLabel(QStringLiteral("ClrMAME")), QStringLiteral("lblClrMAME"));
-    c.lblClrMAME->hide();
-    bottom->addWidget(c.lblClrMAME);
+    AddCornerControls(c, *bottom);
     // No text: the user finds it by clicking the corner, as the start time has always been.
     c.lblStartTime = Named(new QLabel(QStringLiteral("  ")), QStringLiteral("lblStartTime"));
     c.lblStartTime->setFixedSize(12, 12);

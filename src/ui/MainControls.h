@@ -15,11 +15,15 @@
 #include "LinkLabel.h"
 
 class QMainWindow;
+class QMenuBar;
 
 namespace coinlight {
 
 class MachineListView;
+class MenuTree;
 class SettingsPage;
+class TitleStrip;
+class WindowButton;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -47,6 +51,14 @@ enum LinkIndex : int {
 /// control name as objectName (`lblPanel(2)` is `lblPanel_2`), which is how tests and the
 /// theme code find them.
 struct MainControls {
+    // The title strip with the menus' link heads and the window buttons, and the menu bar
+    // under it: the two show one menu tree, by the preference Use Links
+    TitleStrip* picTitle = nullptr;
+    std::array<WindowButton*, 3> imgWindowState{};
+    std::array<LinkLabel*, 5> lblMLinks{};
+    QMenuBar* menuBar = nullptr;
+    MenuTree* menus = nullptr; // every menu and entry, by name
+
     // View menu
     QMenu* mnuView = nullptr;
     QAction* mnuViewAll = nullptr;
@@ -108,6 +120,8 @@ struct MainControls {
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
     QLabel* lblShots = nullptr;
+    QLabel* lblGradient = nullptr;   // opens the gradient chooser of the heritage themes
+    QPushButton* cmdDebug = nullptr; // the maker's catver.ini tool, shown on his machine only
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

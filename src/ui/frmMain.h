@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -82,6 +83,21 @@ public:
     void RebuildSettings();
     void RebuildReport();
 
+    // Look and window: the theme, fonts and title gradient; the window's own buttons; the
+    // layout of every page; the menu's own commands and the maker's tools
+    void ApplyTheme();
+    void ApplyFonts();
+    void SetGradient();
+    void SetIconOther();
+    void FormResize();
+    void WindowButtonClicked(int index);
+    void MenuLinkClicked(int index);
+    void About();
+    void OpenAppFolder();
+    void OpenDataFolder();
+    void CreateCatver();
+    void CreateClrMAMEFiles();
+
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
 
@@ -93,6 +109,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     // The load, step by step
@@ -127,6 +146,17 @@ private:
     void ShowSavedView();
     void FixAllHidden();
     void FatalLoadError(const QString& description, int statement);
+
+    // Look, chrome and menu steps
+    bool ApplyLookAtLoad();
+    void ApplyLookAfterOptions();
+    void SetUpChrome();
+    void ShowGradientChooser();
+    void ShowMenuStyle();
+    void WireMenu();
+    std::function<void()> MenuCommand(std::string_view entry);
+    void SetMenuState(int linkIndex);
+    void HighlightMenuLink(int index, bool on);
 
     // Lists
     bool LoadListsArcade();
@@ -179,7 +209,6 @@ private:
     void UncoverCommands();
     void LeaveSettings();
     bool SettingsScreenOpen() const;
-    void UpdateSettingsMenu();
     void SetDefaultsOf(DefaultsGroup group);
     void BGFXPath();
     void HLSLPath();
@@ -246,6 +275,7 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+    bool m_layoutsRested = false; // while minimized nothing is laid out
 };
 
 } // namespace coinlight

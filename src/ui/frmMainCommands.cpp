@@ -40,6 +40,7 @@ bool frmMain::OpenOptions(bool firstRun) {
     if (outcome.lookChanged) {
         SetLinksOrButtons();
         ApplyListsAppearance();
+        ApplyLookAfterOptions();
     }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
