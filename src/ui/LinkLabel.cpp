@@ -28,10 +28,12 @@ void LinkLabel::changeEvent(QEvent* event) {
 
 void LinkLabel::Render() {
     const QString escaped = m_caption.toHtmlEscaped();
-    const QString colour = palette().color(QPalette::Link).name();
-    setText(isEnabled()
-                ? QStringLiteral("<a href=\"#\" style=\"color:%1\">%2</a>").arg(colour, escaped)
-                : QStringLiteral("<span style=\"color:#8a8a8a\">%1</span>").arg(escaped));
+    const QPalette& colours = palette();
+    setText(isEnabled() ? QStringLiteral("<a href=\"#\" style=\"color:%1\">%2</a>")
+                              .arg(colours.color(QPalette::Link).name(), escaped)
+                        : QStringLiteral("<span style=\"color:%1\">%2</span>")
+                              .arg(colours.color(QPalette::Disabled, QPalette::WindowText).name(),
+                                   escaped));
 }
 
 } // namespace coinlight

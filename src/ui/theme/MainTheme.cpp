@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include "Readability.h"
 #include "StarField.h"
 #include "ThemeTable.h"
 #include "core/Preferences.h"
@@ -216,8 +217,10 @@ bool ApplyTheme(QWidget& form, const MainControls& c, const OtherPreferences& lo
         SetColours(Find(form, name), {{QPalette::Link, otherLinks}});
     }
 
-    // Step 9: the other list's rows, red ones kept red, as one colour of its model.
-    c.lvOther->Model().SetItemColours(colour(theme->otherItems), colour(kUnavailableRed));
+    // Step 9: the other list's rows as one colour of its model; the missing ones stay red, in
+    // the red that reads on the list's background.
+    const QColor otherBack = c.lvOther->palette().color(QPalette::Base);
+    c.lvOther->Model().SetItemColours(colour(theme->otherItems), ReadableRed(otherBack));
     SetColours(c.lvOther, {{QPalette::Text, colour(theme->otherList)}});
 
     // Step 10: the text of the report page and of the slot list.

@@ -79,6 +79,21 @@ bool ShowsStarField(std::string_view name) {
     return name == "Heritage";
 }
 
+ThemePreview PreviewOfTheme(std::string_view name, Colour listBack, Colour listText) {
+    const Theme* theme = FindTheme(name);
+    if (theme == nullptr) {
+        theme = &kThemes.front();
+    }
+    ThemePreview preview;
+    preview.starField = ShowsStarField(theme->name);
+    preview.listBackChoice = theme->name == "Heritage II";
+    preview.colourControls = preview.listBackChoice;
+    const bool heritage = IsHeritageTheme(theme->name);
+    preview.back = heritage ? listBack : theme->back;
+    preview.text = heritage ? listText : theme->text;
+    return preview;
+}
+
 bool UserListColourApplies(Colour colour) {
     return static_cast<std::int32_t>(colour.value) > 0;
 }

@@ -41,8 +41,19 @@ bool ShowsStarField(std::string_view name);
 /// black and every system colour leave the theme's text colour in place.
 bool UserListColourApplies(Colour colour);
 
-/// The red that marks an other machine whose files are missing.
-inline constexpr Colour kUnavailableRed{0x0000FFu};
+/// What the Options dialog's sample of the lists shows for a theme, and which of its colour
+/// controls the user may touch.
+struct ThemePreview {
+    bool starField = false;        // imgStarfield
+    bool listBackChoice = false;   // odclListBackColor shown and enabled
+    bool colourControls = false;   // its caption, the font colour's and cmdFontColor enabled
+    Colour back;                   // lblListBack
+    Colour text;                   // lblListText
+};
+
+/// The heritage themes show the user's list colours; the others their own back and text.
+/// An unknown theme previews as the first.
+ThemePreview PreviewOfTheme(std::string_view name, Colour listBack, Colour listText);
 
 inline constexpr const char* kUnknownThemeTitle = "Theme";
 inline constexpr const char* kUnknownThemeMessage =
