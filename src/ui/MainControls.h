@@ -18,6 +18,7 @@ class QMainWindow;
 namespace coinlight {
 
 class MachineListView;
+class MachineSearchField;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -58,6 +59,7 @@ struct MainControls {
     std::array<QLabel*, 5> lblRefresh{};
 
     // The lists
+    MachineSearchField* txtSearch = nullptr; // narrows the list on show as the user types
     QStackedWidget* lists = nullptr;
     MachineListView* lvAll = nullptr;
     MachineListView* lvAvailable = nullptr;

@@ -89,6 +89,7 @@ void frmMain::ConnectControls() {
     connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
         m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
     });
+    ConnectSearch();
 }
 
 void frmMain::LinkClicked(int index) {

@@ -62,6 +62,10 @@ public:
     void RefreshListsOther();
     void SortColumn(MachineListView& list, int column);
 
+    // Search
+    /// Puts the cursor in the search field (Ctrl+F, or "/" in a list).
+    void FocusSearch();
+
     // Commands
     void Options();
     void PlayArcade();
@@ -135,6 +139,14 @@ private:
     void ShowDetails(MachineListView& list);
     void ApplyDetails(const SelectionDetails& details);
     DetailsSource DetailsSourceOf(const MachineListView& list, const MachineRow& row) const;
+
+    // Search
+    void ConnectSearch();
+    /// Narrows `list` to what the search field holds; false when it already showed that.
+    bool ApplySearch(MachineListView& list);
+    void NarrowListOfView();
+    /// "Machines: N", or "Machines: N of M" while a search narrows the list.
+    QString MachineCountText(const MachineListView& list) const;
 
     // Commands' steps
     bool OpenOptions(bool firstRun);

@@ -75,13 +75,14 @@ void frmMain::UpdateCommandSet() {
 }
 
 void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
-    m_controls.lblPanel[0]->setText(QStringLiteral("Machines: ") +
-                                    QString::number(list.Model().rowCount()));
+    ApplySearch(list); // the search field narrows whichever list is on show
+    m_controls.lblPanel[0]->setText(MachineCountText(list));
     m_controls.lblPanel[1]->setToolTip(&list == m_controls.lvOther ? QStringLiteral("Software")
                                                                    : QStringLiteral("Machine"));
     MachineListModel& model = list.Model();
     if (model.rowCount() == 0) {
         PanelClearSoftware();
+        m_controls.lblPanel[0]->setText(MachineCountText(list));
         return;
     }
     if (model.SortKey() != saved.sortKey || model.SortOrder() != saved.sortOrder) {
