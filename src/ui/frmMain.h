@@ -101,7 +101,6 @@ private:
     bool CheckSupportChanges();
     bool RebuildCatalogue(bool newMame);
     bool RebuildFromLists();
-    bool CaptureMameLists();
     bool CreateCatalogueFiles();
     bool ShowCatalogueOutcome(const CatalogueOutcome& outcome);
     bool MergeCategories();

@@ -5,11 +5,18 @@
 //   fake-mame-data/        the fixtures: listxml.xml, listsoftware.xml, <option>.txt and
 //                          <option>-<machine>.txt for -verifyroms, -listroms, -verifysamples,
 //                          -listsamples, -listslots, -verifysoftware; version.txt
-//   fake-mame-behaviour.txt optional lines: "exit N", "sleep MS", "garbage", "truncate"
+//   fake-mame-behaviour.txt optional lines: "exit N", "sleep MS", "garbage", "truncate";
+//                          for one list option ("listxml", "listsoftware"): "fail OPTION"
+//                          (half the list, then exit 1), "die OPTION" (half, then killed),
+//                          "hold OPTION" (half, then waits up to 30 s for the file
+//                          fake-mame-release to appear before the rest; a wait that ran out
+//                          leaves fake-mame-held-out)
 //   fake-mame-launches.txt  one line per run: the working folder, then each argument,
 //                          separated by TABs
 #include <chrono>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -29,6 +36,9 @@ struct Behaviour {
     int sleepMilliseconds = 0;
     bool garbage = false;
     bool truncate = false;
+    std::string failOption; // the list option that fails half-way
+    std::string dieOption;  // the list option that is killed half-way
+    std::string holdOption; // the list option that waits half-way
 };
 
 Behaviour ReadBehaviour(const fs::path& folder) {
@@ -44,6 +54,12 @@ Behaviour ReadBehaviour(const fs::path& folder) {
             behaviour.garbage = true;
         } else if (word == "truncate") {
             behaviour.truncate = true;
+        } else if (word == "fail") {
+            in >> behaviour.failOption;
+        } else if (word == "die") {
+            in >> behaviour.dieOption;
+        } else if (word == "hold") {
+            in >> behaviour.holdOption;
         }
     }
     return behaviour;
@@ -70,6 +86,39 @@ void PrintGarbage() {
         noise.push_back(static_cast<char>((i * 7919) & 0xFF));
     }
     std::fwrite(noise.data(), 1, noise.size(), stdout);
+}
+
+/// A list that stops half-way as the behaviour says: exits 1, is killed, or waits for the
+/// test's word before it goes on. Nothing (false) when the option is not one of those.
+bool PrintListHalted(const fs::path& folder, const fs::path& file, const std::string& option,
+                     const Behaviour& behaviour) {
+    if (option != behaviour.failOption && option != behaviour.dieOption &&
+        option != behaviour.holdOption) {
+        return false;
+    }
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream content;
+    content << in.rdbuf();
+    const std::string text = content.str();
+    const std::size_t half = text.size() / 2;
+    std::fwrite(text.data(), 1, half, stdout);
+    std::fflush(stdout);
+    if (option == behaviour.failOption) {
+        std::exit(1);
+    }
+    if (option == behaviour.dieOption) {
+        std::raise(SIGKILL);
+    }
+    bool released = false;
+    for (int waited = 0; waited < 3000 && !released; ++waited) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        released = fs::exists(folder / "fake-mame-release");
+    }
+    if (!released) {
+        std::ofstream(folder / "fake-mame-held-out") << "nobody read the first half\n";
+    }
+    std::fwrite(text.data() + half, 1, text.size() - half, stdout);
+    return true;
 }
 
 /// The machine named on the line: the first word that is neither an option nor an option's
@@ -124,6 +173,9 @@ int main(int argc, char** argv) {
         if (argument == "-listxml" || argument == "-listsoftware") {
             if (behaviour.garbage) {
                 PrintGarbage();
+            } else if (PrintListHalted(folder, data / (argument.substr(1) + ".xml"),
+                                       argument.substr(1), behaviour)) {
+                return behaviour.exitCode;
             } else if (!PrintFile(data / (argument.substr(1) + ".xml"), behaviour)) {
                 std::cerr << "fake-mame: no fixture for " << argument << '\n';
                 return 1;
