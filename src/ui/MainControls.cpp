@@ -68,6 +68,8 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
+    c.mnuToolsCheckOptions =
+        AddAction(tools, "mnuToolsCheckOptions", QStringLiteral("Check MAME Options"));
 }
 
 QWidget* BuildListFrame(MainControls& c) {

@@ -47,6 +47,7 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuToolsCheckOptions = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Pages: one of them is on show at a time

@@ -45,6 +45,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
+    connect(c.mnuToolsCheckOptions, &QAction::triggered, this, &frmMain::CheckMameOptions);
     connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);

@@ -21,6 +21,7 @@
 namespace coinlight {
 
 class MachineListView;
+class MameOptionsCapture;
 class Prompter;
 class frmCover;
 class frmSplash;
@@ -65,6 +66,14 @@ public:
     // Search
     /// Puts the cursor in the search field (Ctrl+F, or "/" in a list).
     void FocusSearch();
+
+    // The options of the MAME in use
+    /// Asks MAME which options it takes and shows those Coinlight writes that it lacks.
+    void CheckMameOptions();
+    /// The settings controls whose options the MAME in use does not take, from what it
+    /// said last; none when it has not been asked. For the settings page, which shows them
+    /// disabled (MarkUnsupportedControls).
+    std::vector<std::string> UnsupportedSettingsControls() const;
 
     // Commands
     void Options();
@@ -158,6 +167,8 @@ private:
     bool RunEmulator(const std::string& commandLine);
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
+    /// Starts MAME's -showconfig; the capture keeps the answer when finished.
+    std::unique_ptr<MameOptionsCapture> AskMameForOptions() const;
 
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);

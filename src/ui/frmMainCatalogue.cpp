@@ -17,6 +17,7 @@
 #include "frmMain.h"
 #include "frmSplash.h"
 #include "lists/Favorites.h"
+#include "settings/MameOptionsCapture.h"
 
 namespace coinlight {
 
@@ -149,6 +150,8 @@ bool frmMain::RebuildCatalogue(bool newMame) {
     // MAME's two lists are made at once, and the catalogue as the machine list arrives.
     const MameProgram mame{m_context.preferences.searchPaths.mame,
                            m_context.preferences.mame.executable};
+    // What the MAME takes is asked at the same time, and kept for the settings screens.
+    const auto options = AskMameForOptions();
     FormCatalogueProgress progress(SplashIfUp(), m_controls);
     const SupportFilesResult result =
         RebuildFromMame(mame, m_context.data, m_context.facts.hasCatver, progress, [&] {
@@ -158,6 +161,10 @@ bool frmMain::RebuildCatalogue(bool newMame) {
             }
         });
     const bool created = ShowCatalogueOutcome(result.outcome);
+    if (created) {
+        // A MAME that cannot tell leaves the last answer; nobody needs to hear of it.
+        options->Finish([&progress] { progress.Pump(); });
+    }
     if (created && newMame) {
         PurgeAllFavorites();
         std::error_code ignored;

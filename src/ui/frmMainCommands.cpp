@@ -13,6 +13,7 @@
 #include "settings/MameIniBase.h"
 #include "settings/MameIniPreview.h"
 #include "settings/PathList.h"
+#include "settings/RejectedValues.h"
 
 namespace coinlight {
 
@@ -237,8 +238,10 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 
 void frmMain::ShowErrorOutput(const std::string& text) {
     m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
+    // A value MAME refused is named with the setting that holds it.
+    const std::string named = NameRejectingControls(text);
     m_controls.rtfVerify->setPlainText(
-        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        QString::fromUtf8(named.data(), static_cast<qsizetype>(named.size())));
     ShowPage(m_controls.fraVerify);
 }
 

@@ -10,7 +10,9 @@
 //                          (half the list, then exit 1), "die OPTION" (half, then killed),
 //                          "hold OPTION" (half, then waits up to 30 s for the file
 //                          fake-mame-release to appear before the rest; a wait that ran out
-//                          leaves fake-mame-held-out)
+//                          leaves fake-mame-held-out); "drop OPTION" leaves that option out
+//                          of -showconfig (fixture showconfig.txt); "reject OPTION" makes a
+//                          launch refuse the mame.ini value of that option on its error output
 //   fake-mame-launches.txt  one line per run: the working folder, then each argument,
 //                          separated by TABs
 #include <chrono>
@@ -36,9 +38,11 @@ struct Behaviour {
     int sleepMilliseconds = 0;
     bool garbage = false;
     bool truncate = false;
-    std::string failOption; // the list option that fails half-way
-    std::string dieOption;  // the list option that is killed half-way
-    std::string holdOption; // the list option that waits half-way
+    std::string failOption;            // the list option that fails half-way
+    std::string dieOption;             // the list option that is killed half-way
+    std::string holdOption;            // the list option that waits half-way
+    std::set<std::string> dropped;     // options -showconfig does not list
+    std::vector<std::string> rejected; // options whose value a launch refuses
 };
 
 Behaviour ReadBehaviour(const fs::path& folder) {
@@ -60,6 +64,10 @@ Behaviour ReadBehaviour(const fs::path& folder) {
             in >> behaviour.dieOption;
         } else if (word == "hold") {
             in >> behaviour.holdOption;
+        } else if (word == "drop" && in >> word) {
+            behaviour.dropped.insert(word);
+        } else if (word == "reject" && in >> word) {
+            behaviour.rejected.push_back(word);
         }
     }
     return behaviour;
@@ -121,6 +129,34 @@ bool PrintListHalted(const fs::path& folder, const fs::path& file, const std::st
     return true;
 }
 
+/// -showconfig: the fixture's lines, but for those of the options a build of MAME lacks.
+int PrintOptions(const fs::path& file, const Behaviour& behaviour) {
+    if (behaviour.garbage) {
+        PrintGarbage();
+        return behaviour.exitCode;
+    }
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        std::cerr << "fake-mame: no fixture for -showconfig\n";
+        return 1;
+    }
+    std::string line;
+    while (std::getline(in, line)) {
+        const std::string name = line.substr(0, line.find_first_of(" \t\r"));
+        if (behaviour.dropped.count(name) == 0) {
+            std::cout << line << '\n';
+        }
+    }
+    return behaviour.exitCode;
+}
+
+/// What MAME says of a mame.ini value it cannot take, once for each option told.
+void RejectValues(const Behaviour& behaviour) {
+    for (const auto& option : behaviour.rejected) {
+        std::cerr << "Illegal float value for " << option << ": \"x\"; reverting to 1.0\n";
+    }
+}
+
 /// The machine named on the line: the first word that is neither an option nor an option's
 /// value.
 std::string MachineOf(const std::vector<std::string>& arguments) {
@@ -170,6 +206,9 @@ int main(int argc, char** argv) {
             }
             return behaviour.exitCode;
         }
+        if (argument == "-showconfig") {
+            return PrintOptions(data / "showconfig.txt", behaviour);
+        }
         if (argument == "-listxml" || argument == "-listsoftware") {
             if (behaviour.garbage) {
                 PrintGarbage();
@@ -200,5 +239,6 @@ int main(int argc, char** argv) {
     const std::string machine = MachineOf(arguments);
     std::cout << "fake-mame: emulating " << machine << '\n';
     std::cerr << "fake-mame: warning: this is not MAME\n";
+    RejectValues(behaviour);
     return behaviour.exitCode;
 }

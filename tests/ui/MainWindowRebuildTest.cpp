@@ -53,6 +53,7 @@ TEST_F(MainWindowRebuild, ANewMameFillsTheListsFromItsOwnLists) {
     EXPECT_EQ(ReadFile(Output() / "software.xml"), ReadFile(m_mame.Data() / "listsoftware.xml"));
     EXPECT_GE(Controls().lvAll->Model().RowOfShortName("alpha"), 0);
     EXPECT_LT(Controls().lvAll->Model().RowOfShortName("pacman"), 0) << "the old MAME's";
+    EXPECT_TRUE(FileExists(Output() / "showconfig.txt")) << "MAME was asked for its options";
 }
 
 TEST_F(MainWindowRebuild, OneListFailingLeavesTheOldCatalogueToLoadAndTheNextStartTriesAgain) {
