@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "ui/online/DownloadPage.h"
 
 namespace coinlight {
 
@@ -42,6 +43,13 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
     return link;
 }
 
+void BuildHelpMenu(QMainWindow& window, MainControls& c) {
+    c.mnuHelp = window.menuBar()->addMenu(QStringLiteral("&Help"));
+    c.mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
+    c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
+    c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
+}
+
 void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
@@ -67,6 +75,8 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
+
+    BuildHelpMenu(window, c);
 }
 
 QWidget* BuildListFrame(MainControls& c) {
@@ -240,6 +250,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     left->addWidget(c.pages, 1);
     left->addLayout(BuildDetailsStrip(c));
     left->addLayout(BuildStartRow(central, c));
+    c.fraDownload = new DownloadPage(central);
+    c.fraDownload->hide();
+    left->addWidget(c.fraDownload);
     top->addLayout(left, 1);
     top->addWidget(BuildSideColumn(c));
     outer->addLayout(top, 1);

@@ -17,6 +17,7 @@ class QMainWindow;
 
 namespace coinlight {
 
+class DownloadPage;
 class MachineListView;
 
 /// The link-style twins of the command buttons, by their index.
@@ -47,6 +48,11 @@ struct MainControls {
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
     QAction* mnuMainExit = nullptr;
+
+    // Help menu
+    QMenu* mnuHelp = nullptr;
+    QAction* mnuHelpNews = nullptr;
+    QAction* mnuHelpUpdate = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
@@ -86,6 +92,7 @@ struct MainControls {
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
     QWidget* picSoftware = nullptr;
+    DownloadPage* fraDownload = nullptr; // shown in a development run only
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took

@@ -14,9 +14,13 @@
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
+#include "online/HttpTransport.h"
+#include "online/SiteAddresses.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
 #include "settings/StartBoxes.h"
+#include "ui/online/ShiftKeyWatch.h"
+#include "ui/online/WindowCloseWatch.h"
 
 namespace coinlight {
 
@@ -68,6 +72,19 @@ public:
     void PlayOther();
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
+
+    // Online
+    void News();
+    void Update();
+    /// The Download button of fraDownload: artwork or samples for every machine.
+    void ArtSamDownload();
+    /// A double click in lvAvailable: with Shift held, a machine without artwork gets its
+    /// artwork downloaded; any other double click starts the machine.
+    void AvailableDoubleClick();
+    void UnavailableDoubleClick();
+    /// The rule of a double click in lvSoftware: while the list shows unavailable software
+    /// the user is told so and true comes back; otherwise false, and the caller starts it.
+    bool RefuseUnavailableSoftware(bool unavailableSoftwareShown);
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -141,6 +158,14 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Online steps
+    std::string FetchNews();
+    void ShowNewsPage(const std::string& text, bool greet);
+    bool StoreNewsDate(Day date, std::string* error);
+    void FocusAfterNews();
+    bool DownloadCancelled() const;
+    DownloadOutcome DownloadArtworkFor(const std::string& name);
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -187,6 +212,12 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+
+    HttpTransport m_internet;
+    SiteAddresses m_sites = ReadSiteAddresses(ProcessEnvironment());
+    ShiftKeyWatch m_shiftDown; // ShiftDown
+    WindowCloseWatch m_closeWatch;
+    bool m_onlineBusy = false; // a transfer runs: another online command waits its turn
 };
 
 } // namespace coinlight
