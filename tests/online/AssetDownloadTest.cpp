@@ -35,7 +35,9 @@ TEST(AssetDownload, ArtworkIsFoundInAnyOfTheFolders) {
 class SamplesQuestion : public ::testing::Test {
 protected:
     SamplesQuestion() {
-        m_mame = test::InstallFakeMame(m_folder / "mame folder");
+        // Fixtures of the test's own: the shared ones must not be written to.
+        std::filesystem::create_directories(m_folder / "fixtures");
+        m_mame = test::InstallFakeMame(m_folder / "mame folder", m_folder / "fixtures");
         m_data.root = m_folder / "data";
         std::filesystem::create_directories(m_data.Temp());
         m_run = {m_mame.folder, m_mame.executable, m_data.Temp()};
