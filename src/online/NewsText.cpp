@@ -2,20 +2,14 @@
 
 #include <array>
 
+#include "core/ProfileDocument.h"
+
 namespace coinlight {
 
 namespace {
 
 constexpr std::size_t kDateLength = 8;
 constexpr std::size_t kForceMarkIndex = 8;
-
-std::string_view TrimBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 /// Two-digit years fall in 1930-2029, the window the classic date conversion uses.
 int FullYear(int year, std::size_t digits) {
