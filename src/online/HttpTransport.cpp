@@ -46,6 +46,126 @@ QNetworkRequest FreshRequest(const QUrl& url) {
     return request;
 }
 
+struct TransferReport {
+    bool answered = false;  // the server's headers arrived
+    bool complete = false;  // the body arrived whole, or as far as the caller wanted
+    bool cancelled = false; // by the caller, or because the program is closing
+    int status = 0;         // the HTTP status, 0 when there was none
+};
+
+/// Takes the body as it arrives; false stops the transfer (a disk that is full).
+using Sink = std::function<bool(std::string_view bytes)>;
+
+/// One reply followed to its end on a local event loop, so that the window goes on while
+/// the caller waits: the connect time-out until the request is out, then the receive
+/// time-out between pieces of the answer, the caller's read limit and its Cancel.
+class ReplyRun {
+public:
+    ReplyRun(QNetworkReply* reply, const TransferTimeouts& timeouts, std::size_t limit,
+             const Sink& sink, const std::function<bool()>& cancelled)
+        : m_reply(reply), m_timeouts(timeouts), m_limit(limit), m_sink(sink),
+          m_cancelled(cancelled) {
+        m_deadline.setSingleShot(true);
+        // A coarse timer may fire up to 5 % early; a time-out is a promise to the server.
+        m_deadline.setTimerType(Qt::PreciseTimer);
+        QObject::connect(reply, &QNetworkReply::requestSent, &m_loop, [this] { Alive(); });
+        QObject::connect(reply, &QNetworkReply::metaDataChanged, &m_loop, [this] {
+            m_report.answered = true;
+            Alive();
+        });
+        QObject::connect(reply, &QNetworkReply::readyRead, &m_loop, [this] {
+            Alive();
+            Drain();
+        });
+        QObject::connect(reply, &QNetworkReply::finished, &m_loop, &QEventLoop::quit);
+        QObject::connect(&m_deadline, &QTimer::timeout, &m_loop, [this] { Stop(); });
+        if (m_cancelled) {
+            QObject::connect(&m_cancelPoll, &QTimer::timeout, &m_loop, [this] {
+                if (m_cancelled()) {
+                    m_report.cancelled = true;
+                    Stop();
+                }
+            });
+        }
+    }
+
+    TransferReport Wait() {
+        m_deadline.start(m_timeouts.connect);
+        if (m_cancelled) {
+            m_cancelPoll.start(kCancelPoll);
+        }
+        if (!m_reply->isFinished()) {
+            m_loop.exec();
+        }
+        if (!m_reply->isFinished()) {
+            // The loop was told to end from outside: the program is closing.
+            m_report.cancelled = true;
+            m_reply->abort();
+        }
+        if (!m_report.cancelled) {
+            Drain();
+        }
+        const QNetworkReply::NetworkError error = m_reply->error();
+        m_report.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        m_report.answered = m_report.answered || m_report.status != 0;
+        m_report.complete = !m_sinkFailed && (m_limitReached || error == QNetworkReply::NoError ||
+                                              IsStatusError(error));
+        return m_report;
+    }
+
+private:
+    void Alive() { m_deadline.start(m_timeouts.receive); }
+
+    void Drain() {
+        while (!m_limitReached && !m_sinkFailed && m_reply->bytesAvailable() > 0) {
+            const auto room = static_cast<qint64>(std::min<std::size_t>(
+                m_limit - m_received, static_cast<std::size_t>(std::numeric_limits<int>::max())));
+            const QByteArray chunk = m_reply->read(room);
+            if (chunk.isEmpty()) {
+                break;
+            }
+            m_received += static_cast<std::size_t>(chunk.size());
+            m_sinkFailed = !m_sink(std::string_view(chunk.constData(), chunk.size()));
+            m_limitReached = m_received >= m_limit;
+        }
+        if (m_limitReached || m_sinkFailed) {
+            Stop();
+        }
+    }
+
+    void Stop() {
+        if (m_reply->isRunning()) {
+            m_reply->abort();
+        }
+    }
+
+    QNetworkReply* m_reply;
+    const TransferTimeouts& m_timeouts;
+    const std::size_t m_limit;
+    const Sink& m_sink;
+    const std::function<bool()>& m_cancelled;
+    QEventLoop m_loop;
+    QTimer m_deadline;
+    QTimer m_cancelPoll;
+    TransferReport m_report;
+    std::size_t m_received = 0;
+    bool m_limitReached = false;
+    bool m_sinkFailed = false;
+};
+
+TransferReport Transfer(QNetworkAccessManager& manager, const TransferTimeouts& timeouts,
+                        const std::string& url, std::size_t limit, const Sink& sink,
+                        const std::function<bool()>& cancelled) {
+    const QUrl address(QString::fromStdString(url));
+    if (!IsWebAddress(address)) {
+        return {};
+    }
+    QNetworkReply* reply = manager.get(FreshRequest(address));
+    const TransferReport report = ReplyRun(reply, timeouts, limit, sink, cancelled).Wait();
+    reply->deleteLater();
+    return report;
+}
+
 } // namespace
 
 HttpTransport::HttpTransport(TransferTimeouts timeouts)
@@ -55,93 +175,15 @@ HttpTransport::HttpTransport(TransferTimeouts timeouts)
 
 HttpTransport::~HttpTransport() = default;
 
-HttpTransport::Report HttpTransport::Transfer(const std::string& url, std::size_t limit,
-                                              const Sink& sink,
-                                              const std::function<bool()>& cancelled) {
-    Report report;
-    const QUrl address(QString::fromStdString(url));
-    if (!IsWebAddress(address)) {
-        return report;
-    }
-    QNetworkReply* reply = m_manager->get(FreshRequest(address));
-    std::size_t received = 0;
-    bool limitReached = false;
-    bool sinkFailed = false;
-    QEventLoop loop;
-    QTimer deadline;
-    deadline.setSingleShot(true);
-    QTimer cancelPoll;
-
-    const auto drain = [&] {
-        while (!limitReached && !sinkFailed && reply->bytesAvailable() > 0) {
-            const auto room = static_cast<qint64>(std::min<std::size_t>(
-                limit - received, static_cast<std::size_t>(std::numeric_limits<int>::max())));
-            const QByteArray chunk = reply->read(room);
-            if (chunk.isEmpty()) {
-                break;
-            }
-            received += static_cast<std::size_t>(chunk.size());
-            sinkFailed = !sink(std::string_view(chunk.constData(), chunk.size()));
-            limitReached = received >= limit;
-        }
-    };
-    const auto stop = [reply] {
-        if (reply->isRunning()) {
-            reply->abort();
-        }
-    };
-
-    QObject::connect(reply, &QNetworkReply::requestSent, &loop,
-                     [&] { deadline.start(m_timeouts.receive); });
-    QObject::connect(reply, &QNetworkReply::metaDataChanged, &loop, [&] {
-        report.answered = true;
-        deadline.start(m_timeouts.receive);
-    });
-    QObject::connect(reply, &QNetworkReply::readyRead, &loop, [&] {
-        deadline.start(m_timeouts.receive);
-        drain();
-        if (limitReached || sinkFailed) {
-            stop();
-        }
-    });
-    QObject::connect(&deadline, &QTimer::timeout, &loop, stop);
-    if (cancelled) {
-        QObject::connect(&cancelPoll, &QTimer::timeout, &loop, [&] {
-            if (cancelled()) {
-                report.cancelled = true;
-                stop();
-            }
-        });
-        cancelPoll.start(kCancelPoll);
-    }
-    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-
-    deadline.start(m_timeouts.connect);
-    if (!reply->isFinished()) {
-        loop.exec();
-    }
-    if (!reply->isFinished()) {
-        // The loop was told to end from outside: the program is closing.
-        report.cancelled = true;
-        reply->abort();
-    }
-    drain();
-    report.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    report.answered = report.answered || report.status != 0;
-    report.complete = !sinkFailed && (limitReached || reply->error() == QNetworkReply::NoError ||
-                                      IsStatusError(reply->error()));
-    reply->deleteLater();
-    return report;
-}
-
 std::string HttpTransport::GetUrlText(const std::string& url) {
     std::string body;
-    const Report report = Transfer(url, UrlTextReadLimit(m_firstChunkOnly),
-                                   [&body](std::string_view bytes) {
-                                       body.append(bytes);
-                                       return true;
-                                   },
-                                   {});
+    const TransferReport report =
+        Transfer(*m_manager, m_timeouts, url, UrlTextReadLimit(m_firstChunkOnly),
+                 [&body](std::string_view bytes) {
+                     body.append(bytes);
+                     return true;
+                 },
+                 {});
     std::optional<std::string> answer;
     if (report.answered) {
         answer = std::move(body);
@@ -156,8 +198,8 @@ DownloadOutcome HttpTransport::DownloadToFile(const std::string& url,
     if (!writer.IsOpen()) {
         return DownloadOutcome::Failed;
     }
-    const Report report = Transfer(
-        url, std::numeric_limits<std::size_t>::max(),
+    const TransferReport report = Transfer(
+        *m_manager, m_timeouts, url, std::numeric_limits<std::size_t>::max(),
         [&writer](std::string_view bytes) {
             writer.Write(bytes);
             return writer.Error().empty();

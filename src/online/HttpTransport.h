@@ -48,17 +48,6 @@ public:
                                    const std::function<bool()>& cancelled = {});
 
 private:
-    struct Report {
-        bool answered = false;  // the server's headers arrived
-        bool complete = false;  // the body arrived whole, or as far as the caller wanted
-        bool cancelled = false; // by the caller, or because the program is closing
-        int status = 0;         // the HTTP status, 0 when there was none
-    };
-    using Sink = std::function<bool(std::string_view bytes)>;
-
-    Report Transfer(const std::string& url, std::size_t limit, const Sink& sink,
-                    const std::function<bool()>& cancelled);
-
     TransferTimeouts m_timeouts;
     std::unique_ptr<QNetworkAccessManager> m_manager;
     bool m_firstChunkOnly = false;
