@@ -164,6 +164,18 @@ TEST_F(OnlineWindow, AtStartOnlyNewerNewsIsShown) {
     EXPECT_TRUE(Bold(0));
 }
 
+TEST_F(OnlineWindow, WithNoDateStoredYetNewsOfTheLastFiveYearsShows) {
+    const std::chrono::year_month_day lastYear(YearsBefore(Today(), 1));
+    char date[16];
+    std::snprintf(date, sizeof date, "%02u/%02u/%02d", static_cast<unsigned>(lastYear.month()),
+                  static_cast<unsigned>(lastYear.day()), static_cast<int>(lastYear.year()) % 100);
+    m_server.Serve("/news.txt", std::string(date) + " A year old and never seen.");
+    ASSERT_TRUE(Load()) << Told();
+    Form().NewsAtStart();
+    EXPECT_TRUE(OnNewsPage());
+    EXPECT_EQ(StoredNews(), DayText(YearsBefore(Today(), 1)));
+}
+
 TEST_F(OnlineWindow, ASemicolonInTheNinthPlaceShowsTheNewsAtEveryStart) {
     WriteOption("Miscellaneous", "News", "2026-02-14");
     m_server.Serve("/news.txt", "01/01/20;Everybody must read this.");
