@@ -118,8 +118,9 @@ private:
 
     void Drain() {
         while (!m_limitReached && !m_sinkFailed && m_reply->bytesAvailable() > 0) {
+            // Never more than is there: a read reserves all it may take before reading.
             const auto room = static_cast<qint64>(std::min<std::size_t>(
-                m_limit - m_received, static_cast<std::size_t>(std::numeric_limits<int>::max())));
+                m_limit - m_received, static_cast<std::size_t>(m_reply->bytesAvailable())));
             const QByteArray chunk = m_reply->read(room);
             if (chunk.isEmpty()) {
                 break;
