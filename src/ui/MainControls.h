@@ -70,7 +70,6 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    QWidget* picSpacer = nullptr;
     MachineListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
