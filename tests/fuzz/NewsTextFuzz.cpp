@@ -1,30 +1,24 @@
 // The news as a server may send it: any bytes, read by the chunk rule and then for its date
 // and its ";".
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
+#include "FuzzInput.h"
 #include "online/NewsText.h"
 #include "online/UrlText.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace coinlight;
-    const std::string body(reinterpret_cast<const char*>(data), size);
     bool firstChunkOnly = false;
-    const std::string text = AssembleUrlText(body, firstChunkOnly);
+    const std::string text = AssembleUrlText(std::string(fuzz::AsText(data, size)), firstChunkOnly);
     if (text.size() < kUrlReadChunk || text.size() > kRemoteTextLimit) {
-        std::abort();
+        __builtin_trap(); // a text is padded to its first chunk and cut at the limit
     }
     const Day last = Day(std::chrono::year(2026) / 2 / 14);
     const StartupNewsDecision decision = DecideStartupNews(text, last);
     if (decision.verdict == StartupNewsVerdict::Show && !NewsForced(text) &&
         (last - decision.dateToStore).count() >= 0) {
-        std::abort(); // shown although not newer
+        __builtin_trap(); // shown at start although not newer
     }
-    if (const auto date = NewsDate(text)) {
-        if (!std::chrono::year_month_day(*date).ok()) {
-            std::abort();
-        }
+    if (const auto date = NewsDate(text); date && !std::chrono::year_month_day(*date).ok()) {
+        __builtin_trap();
     }
     return 0;
 }
