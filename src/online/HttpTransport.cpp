@@ -43,6 +43,8 @@ QNetworkRequest FreshRequest(const QUrl& url) {
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    // The bytes as the server holds them: the announced length then counts what arrives.
+    request.setRawHeader("Accept-Encoding", "identity");
     return request;
 }
 
@@ -108,13 +110,22 @@ public:
         const QNetworkReply::NetworkError error = m_reply->error();
         m_report.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         m_report.answered = m_report.answered || m_report.status != 0;
-        m_report.complete = !m_sinkFailed && (m_limitReached || error == QNetworkReply::NoError ||
-                                              IsStatusError(error));
+        m_report.complete =
+            !m_sinkFailed &&
+            (m_limitReached ||
+             ((error == QNetworkReply::NoError || IsStatusError(error)) && HasPromisedLength()));
         return m_report;
     }
 
 private:
     void Alive() { m_deadline.start(m_timeouts.receive); }
+
+    /// A server that hangs up before the length it announced is sometimes reported as done:
+    /// the count of the bytes that came is what tells.
+    bool HasPromisedLength() const {
+        const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
+        return !length.isValid() || length.toULongLong() == m_received;
+    }
 
     void Drain() {
         while (!m_limitReached && !m_sinkFailed && m_reply->bytesAvailable() > 0) {
