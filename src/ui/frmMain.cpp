@@ -16,6 +16,7 @@
 #include "frmCover.h"
 #include "frmSplash.h"
 #include "ui/online/DownloadPage.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -46,7 +47,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
-    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
     for (auto [box, which] :
@@ -84,6 +85,7 @@ void frmMain::ConnectControls() {
             ShowDetails(*list);
         });
     }
+    ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::AvailableDoubleClick);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
@@ -99,8 +101,46 @@ void frmMain::ConnectControls() {
 
 void frmMain::LinkClicked(int index) {
     switch (index) {
+    case LinkArcadeSettings:
+        SettingsArcade();
+        break;
+    case LinkOtherSettings:
+        SettingsOther();
+        break;
     case LinkExit:
-        close();
+        // On a settings screen the command reads Cancel and leaves the screen.
+        if (SettingsScreenOpen()) {
+            Cancel();
+        } else {
+            close();
+        }
+        break;
+    case LinkOK:
+        OK();
+        break;
+    case LinkRestore:
+        Restore();
+        break;
+    case LinkCancel:
+        Cancel();
+        break;
+    case LinkHLSLPath:
+        HLSLPath();
+        break;
+    case LinkHLSLDefaults:
+        SetDefaultsOf(DefaultsGroup::HLSL);
+        break;
+    case LinkYIQDefaults:
+        SetDefaultsOf(DefaultsGroup::YIQ);
+        break;
+    case LinkVectorPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Vector);
+        break;
+    case LinkBloomPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Bloom);
+        break;
+    case LinkBGFXPath:
+        BGFXPath();
         break;
     case LinkStart:
         if (m_inOtherView) {
@@ -244,10 +284,9 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 bool frmMain::HasCommand(int link) const {
-    // The settings screens, the audit and the information panel are not built yet: their
-    // buttons and links stay out of sight until they are.
-    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkAudit &&
-           link != LinkInfo;
+    // The audit and the information panel are not built yet: their buttons and links stay
+    // out of sight until they are.
+    return link != LinkAudit && link != LinkInfo;
 }
 
 void frmMain::SetStartCommands(bool enabled) {
@@ -322,6 +361,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     QWidget* page = m_controls.pages->currentWidget();
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
+    } else if (page == m_controls.fraDefaults) {
+        OK();
     } else if (page == m_controls.fraVerify) {
         ReturnList1();
     } else if (page == m_controls.fraMaintenance) {
