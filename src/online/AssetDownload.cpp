@@ -1,5 +1,6 @@
 #include "AssetDownload.h"
 
+#include "core/AtomicFileWriter.h"
 #include "core/CommandLine.h"
 #include "core/TextFile.h"
 
@@ -92,6 +93,8 @@ BulkDownloadResult RunBulkDownload(AssetKind kind, const std::vector<std::string
         result.error = "Cannot make the folder " + folder.string() + ": " + error.message();
         return result;
     }
+    // A download cut short by a killed program leaves its temporary file here.
+    RemoveOrphanedTemporaries(folder);
     for (const std::string& name : names) {
         if (steps.cancelled()) {
             result.cancelled = true;

@@ -7,6 +7,7 @@
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "UserMessagePrompt.h"
+#include "core/AtomicFileWriter.h"
 #include "core/BeepTune.h"
 #include "core/CommandLine.h"
 #include "core/PreferenceKeys.h"
@@ -270,6 +271,7 @@ DownloadOutcome frmMain::DownloadArtworkFor(const std::string& name) {
     if (!IsShortName(name) || m_cabinetPath.empty()) {
         return DownloadOutcome::Failed;
     }
+    RemoveOrphanedTemporaries(m_cabinetPath);
     const std::string file = name + ".zip";
     return m_internet.DownloadToFile(ArtworkUrl(m_sites.artwork, file),
                                      std::filesystem::path(m_cabinetPath) / file,

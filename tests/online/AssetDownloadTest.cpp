@@ -152,6 +152,13 @@ TEST_F(BulkJob, EachMachineIsTriedInOrderAndAFailureDoesNotStopTheLoop) {
         << "the folder is made on demand";
 }
 
+TEST_F(BulkJob, TheLeftoverOfADownloadOfAKilledProgramIsCleared) {
+    const auto leftover = m_data.root / "artworkdl" / "pacman.zip.tmp-2147483646-ab12CD";
+    WriteFile(leftover, "half a zip");
+    Run(AssetKind::Artwork, {"galaga"});
+    EXPECT_FALSE(std::filesystem::exists(leftover));
+}
+
 TEST_F(BulkJob, SamplesAreFetchedOnlyForMachinesThatHaveThem) {
     Run(AssetKind::Samples, {"pacman", "spacefb"});
     const std::vector<std::string> expected = {
