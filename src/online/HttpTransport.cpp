@@ -1,5 +1,6 @@
 #include "HttpTransport.h"
 
+#include <cstdint>
 #include <limits>
 
 #include <QEventLoop>
@@ -80,7 +81,7 @@ public:
             Drain();
         });
         QObject::connect(reply, &QNetworkReply::finished, &m_loop, &QEventLoop::quit);
-        QObject::connect(&m_deadline, &QTimer::timeout, &m_loop, [this] { Stop(); });
+        QObject::connect(&m_deadline, &QTimer::timeout, &m_loop, [this] { Expire(); });
         if (m_cancelled) {
             QObject::connect(&m_cancelPoll, &QTimer::timeout, &m_loop, [this] {
                 if (m_cancelled()) {
@@ -118,7 +119,24 @@ public:
     }
 
 private:
-    void Alive() { m_deadline.start(m_timeouts.receive); }
+    void Alive() {
+        ++m_signsOfLife;
+        m_deadline.start(m_timeouts.receive);
+    }
+
+    /// The transfer's own thread may have posted news that a busy machine has not delivered
+    /// yet: the time-out counts only once that has been seen.
+    void Expire() {
+        const std::uint64_t seen = m_signsOfLife;
+        QMetaObject::invokeMethod(
+            &m_loop,
+            [this, seen] {
+                if (m_signsOfLife == seen) {
+                    Stop();
+                }
+            },
+            Qt::QueuedConnection);
+    }
 
     /// A server that hangs up before the length it announced is sometimes reported as done:
     /// the count of the bytes that came is what tells.
@@ -163,6 +181,7 @@ private:
     std::size_t m_received = 0;
     bool m_limitReached = false;
     bool m_sinkFailed = false;
+    std::uint64_t m_signsOfLife = 0;
 };
 
 TransferReport Transfer(QNetworkAccessManager& manager, const TransferTimeouts& timeouts,
