@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 mode=${1:-run}
 build_dir=${COINLIGHT_BUILD_DIR:-build}
 packages=(build-essential cmake pkg-config qt6-base-dev libarchive-dev libgtest-dev
-          libgmock-dev fonts-dejavu-core mame)
+          libgmock-dev fonts-dejavu-core mame mame-doc)
 
 missing=()
 for package in "${packages[@]}"; do

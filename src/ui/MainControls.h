@@ -17,7 +17,9 @@ class QMainWindow;
 
 namespace coinlight {
 
+class InfoSourceList;
 class MachineListView;
+class SnapshotPane;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -46,7 +48,17 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainInfo = nullptr;
     QAction* mnuMainExit = nullptr;
+
+    // Reports and Help menus: the documents
+    QAction* mnuReportsUnlistedMachines = nullptr;
+    QAction* mnuHelpHeritage = nullptr;
+    QAction* mnuHelpCommandLines = nullptr;
+    QAction* mnuHelpDefaultKeys = nullptr;
+    QAction* mnuHelpBGFX = nullptr;
+    QAction* mnuHelpHLSL = nullptr;
+    QAction* mnuHelpGLSL = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
@@ -69,6 +81,12 @@ struct MainControls {
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
+    InfoSourceList* lstInfo = nullptr;
+
+    // The snapshot under the lists, the cabinet icon and the artwork sign beside them
+    SnapshotPane* picShots = nullptr;
+    QLabel* picIcon = nullptr;
+    QLabel* lblArtwork = nullptr;
 
     // Details strip and commands
     std::array<QLabel*, 7> lblPanel{};
@@ -90,7 +108,7 @@ struct MainControls {
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;
+    QLabel* lblShots = nullptr;     // in picShots
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

@@ -83,6 +83,7 @@ void frmMain::ConnectControls() {
     connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
         m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
     });
+    ConnectInformation();
 }
 
 void frmMain::LinkClicked(int index) {
@@ -102,6 +103,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkInfo:
+        Info();
         break;
     default:
         break; // the commands behind the other links come with their screens

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,6 +12,8 @@
 #include "MainControls.h"
 #include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "info/DocumentViewers.h"
+#include "info/InfoSelection.h"
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
@@ -68,6 +71,26 @@ public:
     void PlayOther();
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
+
+    // Information, pictures and documents
+    void Info();
+    void ViewShots();
+    void LoadSnapshot();
+    void LoadCabinetIcon();
+    void MAMECommandLines();
+    void MAMEDefaultKeys();
+    void MAMEBGFX();
+    void MAMEGLSL();
+    void MAMEHLSL();
+    void Heritage();
+    void Unlisted();
+
+    /// Where MAME's installed manual is looked for, and how an address is opened in the
+    /// desktop's browser (tests point both elsewhere).
+    void SetMameManual(std::filesystem::path manual) { m_mameManual = std::move(manual); }
+    void SetAddressOpener(std::function<bool(const QString&)> open) {
+        m_openAddress = std::move(open);
+    }
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -141,6 +164,16 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Information's steps
+    void ConnectInformation();
+    void InfoSourceClicked(const QString& source);
+    InfoSelection CurrentInfoSelection() const;
+    void SetReturnCommands(bool enabled);
+    void ShowShotsPane(bool open);
+    void LayOutShots();
+    void ShowDocument(DocumentViewer viewer);
+    void ShowTextPage(const QString& caption, const std::string& text, bool clearScroll = true);
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -187,6 +220,9 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+    bool m_shotsOn = false; // ShotsOn: the snapshot pane is open
+    std::filesystem::path m_mameManual = DebianManual();
+    std::function<bool(const QString&)> m_openAddress;
 };
 
 } // namespace coinlight

@@ -223,10 +223,8 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
-    m_controls.rtfVerify->setPlainText(
-        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    ShowPage(m_controls.fraVerify);
+    // The standard output of the same start stays on the strip beside it.
+    ShowTextPage(QStringLiteral("MAME Error Output"), text, false);
 }
 
 void frmMain::Find() {

@@ -4,6 +4,7 @@
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "frmMain.h"
+#include "info/InfoSourceList.h"
 
 namespace coinlight {
 
@@ -83,6 +84,8 @@ void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
     MachineListModel& model = list.Model();
     if (model.rowCount() == 0) {
         PanelClearSoftware();
+        LoadSnapshot();
+        LoadCabinetIcon();
         return;
     }
     if (model.SortKey() != saved.sortKey || model.SortOrder() != saved.sortOrder) {
@@ -203,6 +206,8 @@ void frmMain::ShowDetails(MachineListView& list) {
     ApplyDetails(DetailsOf(*row, DetailsSourceOf(list, *row),
                            m_context.preferences.other.mergedRomSets, m_arcadeRomFolders,
                            m_context.data.Settings(), current));
+    LoadSnapshot();
+    LoadCabinetIcon();
 }
 
 void frmMain::ApplyDetails(const SelectionDetails& details) {
@@ -220,6 +225,7 @@ void frmMain::ApplyDetails(const SelectionDetails& details) {
 void frmMain::ReturnList1() {
     const MainControls& c = m_controls;
     ShowPage(c.fraList);
+    c.lstInfo->Retire();
     c.rtfVerify->clear();
     c.cmdFind->setText(QStringLiteral("&MAME.Ini"));
     c.cmdFind->setToolTip(
