@@ -16,9 +16,14 @@ namespace {
 /// One archive open for reading; only the 7z format is accepted.
 class ArchiveReader {
 public:
-    explicit ArchiveReader(const std::filesystem::path& file) : m_archive(archive_read_new()) {
+    ArchiveReader(const std::filesystem::path& file, const ArchiveLimits& limits)
+        : m_archive(archive_read_new()) {
         if (m_archive == nullptr) {
             m_error = TooLargeError("cannot start the archive reader");
+            return;
+        }
+        if (FileSize(file).value_or(0) > limits.archiveBytes) {
+            m_error = TooLargeError("the archive is larger than a cheat collection can be");
             return;
         }
         archive_read_support_format_7zip(m_archive);
@@ -145,7 +150,7 @@ std::optional<std::string> ExtractedName(std::string_view entryName) {
 ArchiveListing ListArchiveEntries(const std::filesystem::path& archive,
                                   const ArchiveLimits& limits) {
     ArchiveListing listing;
-    ArchiveReader reader(archive);
+    ArchiveReader reader(archive, limits);
     while (!reader.Error()) {
         archive_entry* entry = reader.NextEntry();
         if (entry == nullptr) {
@@ -165,7 +170,7 @@ std::optional<InfoError> ExtractArchiveEntry(const std::filesystem::path& archiv
                                              const EntrySelector& wanted,
                                              const std::filesystem::path& folder,
                                              const ArchiveLimits& limits) {
-    ArchiveReader reader(archive);
+    ArchiveReader reader(archive, limits);
     std::uint64_t count = 0;
     std::uint64_t passed = 0;
     while (!reader.Error()) {

@@ -16,8 +16,9 @@ namespace coinlight {
 /// a few hundred kilobytes and the whole cheat collection some tens of thousands of
 /// entries; anything far beyond is damaged or hostile.
 struct ArchiveLimits {
-    std::uint64_t entryBytes = 64ull << 20; // one extracted entry
-    std::uint64_t passedBytes = 4ull << 30; // entries decoded on the way to the wanted ones
+    std::uint64_t archiveBytes = 1ull << 30; // the archive file itself
+    std::uint64_t entryBytes = 64ull << 20;  // one extracted entry
+    std::uint64_t passedBytes = 4ull << 30;  // entries decoded on the way to the wanted ones
     std::uint64_t entryCount = 2'000'000;
 };
 

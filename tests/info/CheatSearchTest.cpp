@@ -129,6 +129,9 @@ TEST_F(CheatSearch, DamagedEncryptedAndHugeArchivesAreErrors) {
     tight.passedBytes = 1 << 20;
     tight.entryCount = 1;
     EXPECT_EQ(Failure(ArcadeSelection("pacman"), tight).number, 7) << "too many entries";
+    tight.entryCount = 10;
+    tight.archiveBytes = 100;
+    EXPECT_EQ(Failure(ArcadeSelection("pacman"), tight).number, 7) << "an archive too large";
 
     std::filesystem::remove(Archive());
     EXPECT_EQ(Failure(ArcadeSelection("pacman")).number, 53);
