@@ -172,7 +172,9 @@ private:
     void ShowShotsPane(bool open);
     void LayOutShots();
     void ShowDocument(DocumentViewer viewer);
-    void ShowTextPage(const QString& caption, const std::string& text, bool clearScroll = true);
+    /// The one document viewer. `afterStart`: the output of a start, whose details strip and
+    /// scrolling line keep what the start left there.
+    void ShowTextPage(const QString& caption, const std::string& text, bool afterStart = false);
 
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);

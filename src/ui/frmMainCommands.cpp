@@ -223,8 +223,7 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    // The standard output of the same start stays on the strip beside it.
-    ShowTextPage(QStringLiteral("MAME Error Output"), text, false);
+    ShowTextPage(QStringLiteral("MAME Error Output"), text, true);
 }
 
 void frmMain::Find() {

@@ -315,14 +315,14 @@ void frmMain::ShowDocument(DocumentViewer viewer) {
     }
 }
 
-void frmMain::ShowTextPage(const QString& caption, const std::string& text, bool clearScroll) {
+void frmMain::ShowTextPage(const QString& caption, const std::string& text, bool afterStart) {
     const MainControls& c = m_controls;
-    PanelTextHide();
-    c.picIcon->hide();
-    c.lblArtwork->hide();
-    if (clearScroll) {
+    if (!afterStart) {
+        PanelTextHide();
         c.lblScroll->clear();
     }
+    c.picIcon->hide();
+    c.lblArtwork->hide();
     ShowPage(c.fraVerify);
     DisableFormButtons();
     c.fraVerify->setTitle(caption);
@@ -330,7 +330,7 @@ void frmMain::ShowTextPage(const QString& caption, const std::string& text, bool
     c.rtfVerify->hide();
     SetPanelText(*c.rtfVerify, text);
     c.rtfVerify->show();
-    if (clearScroll) {
+    if (!afterStart) {
         c.lblScroll->setToolTip({});
     }
     if (!m_context.preferences.other.useLinks) {

@@ -235,6 +235,12 @@ void frmMain::ReturnList1() {
     c.cmdExit->setText(QStringLiteral("E&xit"));
     c.cmdExit->setToolTip(QStringLiteral("Closes Coinlight"));
     MachineListView* list = ListOfView();
+    // A text page empties the strip and disables the settings commands: the end of the list
+    // set-up brings both back.
+    c.lblPanel[0]->setText(QStringLiteral("Machines: ") +
+                           QString::number(list->Model().rowCount()));
+    UpdateCommandSet();
+    SetFamilyCheckBoxes(!m_inOtherView && list != c.lvUnavailable);
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
@@ -243,6 +249,7 @@ void frmMain::ReturnList1() {
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    LoadSnapshot();
 }
 
 } // namespace coinlight

@@ -88,6 +88,7 @@ TEST_F(InfoPanel, InfoListsTheSourcesAndAClickShowsWhatTheyHold) {
 
     Form().ReturnList1();
     EXPECT_EQ(c.pages->currentWidget(), c.fraList);
+    EXPECT_TRUE(c.cmdArcadeSettings->isEnabled()) << "what the panel disabled comes back";
     EXPECT_EQ(c.lstInfo->count(), 0);
     EXPECT_TRUE(c.lstInfo->isHidden());
     EXPECT_TRUE(m_prompter.Prompts().empty()) << Told();
@@ -229,6 +230,14 @@ TEST_F(InfoPanel, DocumentsShowOnTheTextPageOrSayWhyNot) {
     EXPECT_EQ(c.fraVerify->title(), "MAME GLSL");
     EXPECT_EQ(PanelText(), "GLSL in C:mameglsl\n");
     EXPECT_EQ(opened.size(), 1u);
+    EXPECT_FALSE(c.cmdArcadeSettings->isEnabled());
+
+    const QString count =
+        QStringLiteral("Machines: ") + QString::number(c.lvAll->Model().rowCount());
+    Form().ReturnList1();
+    EXPECT_EQ(c.lblPanel[0]->text(), count) << "the strip comes back whole";
+    EXPECT_FALSE(c.lblPanel[2]->text().isEmpty());
+    EXPECT_TRUE(c.cmdArcadeSettings->isEnabled() && c.cmdFind->isEnabled());
 }
 
 } // namespace
