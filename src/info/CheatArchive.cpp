@@ -48,7 +48,7 @@ public:
         if (status == ARCHIVE_EOF) {
             return nullptr;
         }
-        if (status < ARCHIVE_WARN) {
+        if (status != ARCHIVE_OK && status != ARCHIVE_WARN) {
             m_error = Failure();
             return nullptr;
         }
