@@ -53,7 +53,9 @@ case "$mode" in
     ;;
   sanitize)
     build_dir=${COINLIGHT_BUILD_DIR:-build}-sanitize
-    configure "$build_dir" -DCOINLIGHT_SANITIZE=address,undefined -DCOINLIGHT_BUILD_BENCH=OFF
+    # Unoptimised: the sanitizers find the same faults, and the build is much quicker.
+    configure "$build_dir" -DCOINLIGHT_SANITIZE=address,undefined -DCOINLIGHT_BUILD_BENCH=OFF \
+      -DCMAKE_BUILD_TYPE=Debug
     cmake --build "$build_dir" -j"$(nproc)"
     export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1

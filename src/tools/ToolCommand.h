@@ -22,5 +22,6 @@ std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
 std::vector<ToolCommand> InfoCommands();
+std::vector<ToolCommand> RebuildCommands();
 
 } // namespace coinlight

@@ -9,6 +9,7 @@
 #include "MachineListView.h"
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -69,6 +70,15 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
 
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
+    c.mnuTools = tools;
+    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
+    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
+    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
+    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
+    // The report belongs to the reports menu once there is one.
+    c.mnuReportsRebuild =
+        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
+    tools->addSeparator();
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
@@ -256,6 +266,10 @@ QWidget* BuildSideColumn(MainControls& c) {
         AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
     layout->addWidget(c.cmdArcadeSettings);
     layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
+    c.cboSettings = Named(new QComboBox(side), QStringLiteral("cboSettings"));
+    c.cboSettings->setToolTip(QStringLiteral("The Class Of Machines These Settings Are For"));
+    c.cboSettings->hide();
+    layout->addWidget(c.cboSettings);
     layout->addWidget(c.cmdOtherSettings);
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
@@ -290,7 +304,10 @@ MainControls BuildMainControls(QMainWindow& window) {
     auto* left = new QVBoxLayout;
 
     c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
-    c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
+    c.fraDefaults = new SettingsPage;
+    for (auto [index, link] : c.fraDefaults->MainLinks()) {
+        c.lblBLinks[static_cast<std::size_t>(index)] = link;
+    }
     c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -20,6 +21,7 @@ namespace coinlight {
 class InfoSourceList;
 class MachineListView;
 class SnapshotPane;
+class SettingsPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -30,8 +32,17 @@ enum LinkIndex : int {
     LinkStart = 4,
     LinkAudit = 5,
     LinkInfo = 6,
+    LinkOK = 7,
+    LinkRestore = 8,
+    LinkCancel = 9,
     LinkReturnList1 = 11,
-    kLinkCount = 12,
+    LinkHLSLPath = 19,
+    LinkHLSLDefaults = 20,
+    LinkYIQDefaults = 21,
+    LinkVectorPostDefaults = 22,
+    LinkBloomPostDefaults = 23,
+    LinkBGFXPath = 24,
+    kLinkCount = 25,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -49,6 +60,12 @@ struct MainControls {
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
     QAction* mnuMainInfo = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuToolsArcade = nullptr;
+    QAction* mnuToolsOther = nullptr;
+    QAction* mnuToolsCustom = nullptr;
+    QAction* mnuToolsRebuild = nullptr;
+    QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Reports and Help menus: the documents
@@ -64,7 +81,7 @@ struct MainControls {
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
-    QGroupBox* fraDefaults = nullptr;
+    SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
@@ -94,6 +111,7 @@ struct MainControls {
     QPushButton* cmdInfo = nullptr;
     QPushButton* cmdArcadeSettings = nullptr;
     QPushButton* cmdOtherSettings = nullptr;
+    QComboBox* cboSettings = nullptr; // the class profile of an arcade settings screen
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;
