@@ -35,16 +35,6 @@ std::filesystem::path BulkDownloadFolder(const DataLayout& data, AssetKind kind)
     return data.root / (kind == AssetKind::Artwork ? "artworkdl" : "samplesdl");
 }
 
-bool HasArtworkFile(const std::vector<std::string>& artworkFolders, std::string_view name) {
-    std::error_code error;
-    for (const auto& folder : artworkFolders) {
-        if (std::filesystem::exists(std::filesystem::path(folder) / ZipName(name), error)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string ListSamplesCommand(const MameRun& mame, std::string_view name,
                                const std::filesystem::path& output) {
     CommandLine line(mame.folder, mame.executable);

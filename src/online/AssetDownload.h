@@ -26,10 +26,6 @@ std::string SamplesUrl(const std::string& site, std::string_view file);
 /// folder, left there for the user to move.
 std::filesystem::path BulkDownloadFolder(const DataLayout& data, AssetKind kind);
 
-/// True when `<name>.zip` lies in one of the Artwork folders: the machine has its artwork,
-/// as the artwork sign beside the list shows.
-bool HasArtworkFile(const std::vector<std::string>& artworkFolders, std::string_view name);
-
 /// What `-listsamples` of one machine said.
 enum class SamplesAnswer {
     Has,       // a heading and at least one sample

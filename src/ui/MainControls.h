@@ -19,7 +19,9 @@ class QMainWindow;
 namespace coinlight {
 
 class DownloadPage;
+class InfoSourceList;
 class MachineListView;
+class SnapshotPane;
 class SettingsPage;
 
 /// The link-style twins of the command buttons, by their index.
@@ -58,6 +60,7 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainInfo = nullptr;
     QMenu* mnuTools = nullptr;
     QAction* mnuToolsArcade = nullptr;
     QAction* mnuToolsOther = nullptr;
@@ -66,7 +69,14 @@ struct MainControls {
     QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
-    // Help menu
+    // Reports and Help menus: the documents
+    QAction* mnuReportsUnlistedMachines = nullptr;
+    QAction* mnuHelpHeritage = nullptr;
+    QAction* mnuHelpCommandLines = nullptr;
+    QAction* mnuHelpDefaultKeys = nullptr;
+    QAction* mnuHelpBGFX = nullptr;
+    QAction* mnuHelpHLSL = nullptr;
+    QAction* mnuHelpGLSL = nullptr;
     QMenu* mnuHelp = nullptr;
     QAction* mnuHelpNews = nullptr;
     QAction* mnuHelpUpdate = nullptr;
@@ -91,6 +101,12 @@ struct MainControls {
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
+    InfoSourceList* lstInfo = nullptr;
+
+    // The snapshot under the lists, the cabinet icon and the artwork sign beside them
+    SnapshotPane* picShots = nullptr;
+    QLabel* picIcon = nullptr;
+    QLabel* lblArtwork = nullptr;
 
     // Details strip and commands
     std::array<QLabel*, 7> lblPanel{};
@@ -114,7 +130,7 @@ struct MainControls {
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;
+    QLabel* lblShots = nullptr;     // in picShots
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

@@ -97,6 +97,7 @@ void frmMain::ConnectControls() {
     connect(c.mnuHelpNews, &QAction::triggered, this, &frmMain::News);
     connect(c.mnuHelpUpdate, &QAction::triggered, this, &frmMain::Update);
     connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
+    ConnectInformation();
 }
 
 void frmMain::LinkClicked(int index) {
@@ -154,6 +155,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkInfo:
+        Info();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -284,9 +288,8 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 bool frmMain::HasCommand(int link) const {
-    // The audit and the information panel are not built yet: their buttons and links stay
-    // out of sight until they are.
-    return link != LinkAudit && link != LinkInfo;
+    // The audit is not built yet: its buttons and links stay out of sight until it is.
+    return link != LinkAudit;
 }
 
 void frmMain::SetStartCommands(bool enabled) {

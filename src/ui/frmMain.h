@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,6 +12,8 @@
 #include "MainControls.h"
 #include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "info/DocumentViewers.h"
+#include "info/InfoSelection.h"
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
@@ -89,6 +92,25 @@ public:
     /// the user is told so and true comes back; otherwise false, and the caller starts it.
     bool RefuseUnavailableSoftware(bool unavailableSoftwareShown);
 
+    // Information, pictures and documents
+    void Info();
+    void ViewShots();
+    void LoadSnapshot();
+    void LoadCabinetIcon();
+    void MAMECommandLines();
+    void MAMEDefaultKeys();
+    void MAMEBGFX();
+    void MAMEGLSL();
+    void MAMEHLSL();
+    void Heritage();
+    void Unlisted();
+
+    /// Where MAME's installed manual is looked for, and how an address is opened in the
+    /// desktop's browser (tests point both elsewhere).
+    void SetMameManual(std::filesystem::path manual) { m_mameManual = std::move(manual); }
+    void SetAddressOpener(std::function<bool(const QString&)> open) {
+        m_openAddress = std::move(open);
+    }
     // Settings screens
     void SettingsArcade();
     void SettingsOther();
@@ -186,6 +208,17 @@ private:
     bool DownloadCancelled() const;
     DownloadOutcome DownloadArtworkFor(const std::string& name);
 
+    // Information's steps
+    void ConnectInformation();
+    void InfoSourceClicked(const QString& source);
+    InfoSelection CurrentInfoSelection() const;
+    void SetReturnCommands(bool enabled);
+    void ShowShotsPane(bool open);
+    void LayOutShots();
+    void ShowDocument(DocumentViewer viewer);
+    /// The one document viewer. `afterStart`: the output of a start, whose details strip and
+    /// scrolling line keep what the start left there.
+    void ShowTextPage(const QString& caption, const std::string& text, bool afterStart = false);
     // Settings screens' steps
     void ConnectSettingsControls();
     void DefineCombos();
@@ -277,6 +310,9 @@ private:
     ShiftKeyWatch m_shiftDown; // ShiftDown
     WindowCloseWatch m_closeWatch;
     bool m_onlineBusy = false; // a transfer runs: another online command waits its turn
+    bool m_shotsOn = false;    // ShotsOn: the snapshot pane is open
+    std::filesystem::path m_mameManual = DebianManual();
+    std::function<bool(const QString&)> m_openAddress;
 };
 
 } // namespace coinlight

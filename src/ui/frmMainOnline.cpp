@@ -144,7 +144,9 @@ void frmMain::NewsAtStart() {
 void frmMain::ShowNewsPage(const std::string& text, bool greet) {
     const MainControls& c = m_controls;
     PanelTextHide();
+    c.picIcon->hide();
     c.lblScroll->clear();
+    c.lblArtwork->hide();
     ShowPage(c.fraVerify);
     DisableFormButtons();
     c.fraVerify->setTitle(QString::fromLatin1(kNewsTitle));
@@ -282,7 +284,7 @@ void frmMain::AvailableDoubleClick() {
     const std::string name = m_controls.lblPanel[2]->text().toStdString();
     // Without an artwork site there is no download to ask for, and the click starts as usual.
     const bool download = m_shiftDown.Down() && !name.empty() && !m_sites.artwork.empty() &&
-                          !HasArtworkFile(m_artworkFolders, name) && !m_onlineBusy;
+                          m_controls.lblArtwork->isHidden() && !m_onlineBusy;
     if (!download) {
         PlayArcade();
         m_shiftDown.Clear();

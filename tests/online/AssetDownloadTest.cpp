@@ -23,15 +23,6 @@ TEST(AssetDownload, AddressesAndFoldersFollowTheSitesLayout) {
     EXPECT_EQ(BulkDownloadFolder(data, AssetKind::Samples), "/data/samplesdl");
 }
 
-TEST(AssetDownload, ArtworkIsFoundInAnyOfTheFolders) {
-    TempFolder folder;
-    WriteFile(folder / "two" / "galaga.zip", "zip");
-    const std::vector<std::string> folders = {(folder / "one").string(), (folder / "two").string()};
-    EXPECT_TRUE(HasArtworkFile(folders, "galaga"));
-    EXPECT_FALSE(HasArtworkFile(folders, "pacman"));
-    EXPECT_FALSE(HasArtworkFile({}, "galaga"));
-}
-
 class SamplesQuestion : public ::testing::Test {
 protected:
     SamplesQuestion() {
