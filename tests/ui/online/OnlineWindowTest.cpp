@@ -399,6 +399,10 @@ TEST_F(OnlineWindow, TheDownloadPageIsHiddenInAnOrdinaryRunAndHelpEndsTheMenuBar
     const QList<QAction*> menus = Form().menuBar()->actions();
     ASSERT_FALSE(menus.isEmpty());
     EXPECT_EQ(menus.back()->menu(), Controls().mnuHelp);
+    const QList<QAction*> help = Controls().mnuHelp->actions();
+    ASSERT_GE(help.size(), 2);
+    EXPECT_EQ(help[help.size() - 2], Controls().mnuHelpNews) << "behind the documents";
+    EXPECT_EQ(help.back(), Controls().mnuHelpUpdate);
     EXPECT_EQ(Controls().mnuHelpNews->text(), "Coinlight News");
     EXPECT_EQ(Controls().mnuHelpUpdate->text(), "Check For Update");
 }
