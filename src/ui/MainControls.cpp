@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 
 namespace coinlight {
 
@@ -45,6 +47,7 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
 void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
+    c.mnuMain = main;
     c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
 
     c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
@@ -66,7 +69,70 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
 
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
+    c.mnuTools = tools;
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
+}
+
+QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
+    QMenu* submenu = menu->addMenu(caption);
+    submenu->setObjectName(QString::fromLatin1(name));
+    return submenu;
+}
+
+/// The entries of the audit, the reports and the maintenance commands on the menus.
+void BuildReportMenus(QMainWindow& window, MainControls& c) {
+    c.mnuMainAudit = new QAction(QStringLiteral("Audit"), c.mnuMain);
+    c.mnuMainAudit->setObjectName(QStringLiteral("mnuMainAudit"));
+    c.mnuMainExport = new QAction(QStringLiteral("Export List"), c.mnuMain);
+    c.mnuMainExport->setObjectName(QStringLiteral("mnuMainExport"));
+    c.mnuMain->insertActions(c.mnuMainExit, {c.mnuMainAudit, c.mnuMainExport});
+
+    c.mnuToolsMaintenance = new QAction(QStringLiteral("Maintenance..."), c.mnuTools);
+    c.mnuToolsMaintenance->setObjectName(QStringLiteral("mnuToolsMaintenance"));
+    c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
+
+    c.mnuReports = window.menuBar()->addMenu(QStringLiteral("&Reports"));
+    c.mnuReports->setObjectName(QStringLiteral("mnuReports"));
+    c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
+    c.mnuReportsVerifyROMs =
+        AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
+    c.mnuReportsLastROM =
+        AddAction(c.mnuReportsROMs, "mnuReportsLastROM", QStringLiteral("Last ROMs Report"));
+    c.mnuReportsSoftware =
+        AddSubmenu(c.mnuReports, "mnuReportsSoftware", QStringLiteral("Software"));
+    c.mnuReportsVerifyAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsVerifyAllSoftware",
+                                              QStringLiteral("Verify All Software"));
+    c.mnuReportsLastAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsLastAllSoftware",
+                                            QStringLiteral("Last All Software Report"));
+    c.mnuReportsVerifyMachinesSoftware =
+        AddAction(c.mnuReportsSoftware, "mnuReportsVerifyMachinesSoftware",
+                  QStringLiteral("Verify Machine's Software"));
+    c.mnuReportsLastMachinesSoftware = AddAction(
+        c.mnuReportsSoftware, "mnuReportsLastMachinesSoftware",
+        QStringLiteral("Last Machine's Software Report (May Not Be Current Selected Machine)"));
+    c.mnuReportsSamples = AddSubmenu(c.mnuReports, "mnuReportsSamples", QStringLiteral("Samples"));
+    c.mnuReportsVerifySamples = AddAction(c.mnuReportsSamples, "mnuReportsVerifySamples",
+                                          QStringLiteral("Verify All Samples"));
+    c.mnuReportsLastSample = AddAction(c.mnuReportsSamples, "mnuReportsLastSample",
+                                       QStringLiteral("Last Samples Report"));
+    c.mnuReportsWhatsChanged =
+        AddSubmenu(c.mnuReports, "mnuReportsWhatsChanged", QStringLiteral("What's Changed"));
+    c.mnuReportsWhatROMsChanged = AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChanged",
+                                            QStringLiteral("What ROMs Changed"));
+    c.mnuReportsWhatROMsChangedReport =
+        AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChangedReport",
+                  QStringLiteral("Last What ROMs Changed Report"));
+    c.mnuReports->addSeparator();
+    c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
+
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuDeleteROM = AddAction(c.mnuRClick, "mnuDeleteROM", QStringLiteral("Delete ROM"));
+    c.mnuDeleteSamples =
+        AddAction(c.mnuRClick, "mnuDeleteSamples", QStringLiteral("Delete &Samples"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
 }
 
 QWidget* BuildListFrame(MainControls& c) {
@@ -96,19 +162,11 @@ QWidget* BuildListFrame(MainControls& c) {
 }
 
 QWidget* BuildVerifyFrame(MainControls& c) {
-    c.fraVerify = Named(new QGroupBox, QStringLiteral("fraVerify"));
-    auto* layout = new QVBoxLayout(c.fraVerify);
-    c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
-    c.rtfVerify->setOpenExternalLinks(false);
-    c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
-    layout->addWidget(c.rtfVerify);
-    auto* commands = new QHBoxLayout;
-    c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
-                              QStringLiteral("Returns To The Machine List"));
-    commands->addWidget(c.cmdGameList);
-    commands->addWidget(AddLink(c.fraVerify, c, LinkReturnList1, QStringLiteral("Return")));
-    commands->addStretch();
-    layout->addLayout(commands);
+    c.verifyPage = new VerifyPage;
+    c.fraVerify = c.verifyPage;
+    c.rtfVerify = c.verifyPage->Report();
+    c.cmdGameList = c.verifyPage->ReturnButton();
+    c.lblBLinks[LinkReturnList1] = c.verifyPage->ReturnLink();
     return c.fraVerify;
 }
 
@@ -231,7 +289,8 @@ MainControls BuildMainControls(QMainWindow& window) {
 
     c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
     c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
-    c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
+    c.maintenancePage = new MaintenancePage;
+    c.fraMaintenance = c.maintenancePage;
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),
           static_cast<QWidget*>(c.fraMaintenance), BuildPleaseWait(c)}) {
@@ -257,6 +316,7 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildReportMenus(window, c);
     return c;
 }
 

@@ -18,6 +18,8 @@ class QMainWindow;
 namespace coinlight {
 
 class MachineListView;
+class MaintenancePage;
+class VerifyPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -48,12 +50,41 @@ struct MainControls {
     QAction* mnuMainOptions = nullptr;
     QAction* mnuMainExit = nullptr;
 
+    // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
+    // the right-click menu of the lists
+    QMenu* mnuMain = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuMainAudit = nullptr;
+    QAction* mnuMainExport = nullptr;
+    QAction* mnuToolsMaintenance = nullptr;
+    QMenu* mnuReports = nullptr;
+    QMenu* mnuReportsROMs = nullptr;
+    QAction* mnuReportsVerifyROMs = nullptr;
+    QAction* mnuReportsLastROM = nullptr;
+    QMenu* mnuReportsSoftware = nullptr;
+    QAction* mnuReportsVerifyAllSoftware = nullptr;
+    QAction* mnuReportsLastAllSoftware = nullptr;
+    QAction* mnuReportsVerifyMachinesSoftware = nullptr;
+    QAction* mnuReportsLastMachinesSoftware = nullptr;
+    QMenu* mnuReportsSamples = nullptr;
+    QAction* mnuReportsVerifySamples = nullptr;
+    QAction* mnuReportsLastSample = nullptr;
+    QMenu* mnuReportsWhatsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChangedReport = nullptr;
+    QAction* mnuReportsFind = nullptr;
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuDeleteROM = nullptr;
+    QAction* mnuDeleteSamples = nullptr;
+
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
+    VerifyPage* verifyPage = nullptr; // fraVerify as the page it is
     QGroupBox* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
+    MaintenancePage* maintenancePage = nullptr; // fraMaintenance as the page it is
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
 

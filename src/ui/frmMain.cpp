@@ -15,6 +15,8 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 
 namespace coinlight {
 
@@ -77,6 +79,7 @@ void frmMain::ConnectControls() {
                 [this, list](int column) { SortColumn(*list, column); });
         connect(list, &MachineListView::RowSelected, this, [this, list] { ShowDetails(*list); });
     }
+    ConnectReportControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
@@ -102,6 +105,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkAudit:
+        Audit();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -252,6 +258,8 @@ void frmMain::SetLinksOrButtons() {
         button->setVisible(!links);
         c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
+    c.verifyPage->SetUseLinks(links);
+    c.maintenancePage->SetUseLinks(links);
 }
 
 void frmMain::EmptyTempFolder() {
@@ -300,13 +308,22 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
     } else if (page == m_controls.fraVerify) {
-        ReturnList1();
+        if (m_controls.cmdGameList->isEnabled()) { // not while a report is being made
+            ReturnList1();
+        }
     } else if (page == m_controls.fraMaintenance) {
         ReturnList2();
     }
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (m_verifyRunning) {
+        // MAME is stopped first; the window closes when the verification has ended.
+        m_closeAfterVerify = true;
+        CancelVerify();
+        event->ignore();
+        return;
+    }
     // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
     const bool settingsOpen = m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
                               m_controls.lblBLinks[LinkExit]->Caption() == QStringLiteral("Cancel");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -16,6 +17,9 @@
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "reports/MaintenancePlan.h"
+#include "reports/ReportHeading.h"
+#include "reports/VerifyReports.h"
 #include "settings/StartBoxes.h"
 
 namespace coinlight {
@@ -66,8 +70,38 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
-    /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
+    /// By its caption: shows the mame.ini the selected machine would get, lists the bad sets
+    /// of a report, or prints the report page.
     void Find();
+
+    // Audit and reports
+    void Audit();
+    void VerifyROMs();
+    void VerifySamples();
+    /// An empty `lists` means all software; any other value the machine whose software the
+    /// panel loaded last (SetSoftwareMachine).
+    void VerifySoftware(const std::string& lists);
+    void LastROM();
+    void LastSample();
+    void LastSoftware(const std::string& lists);
+    /// Ends a running verification; the page then says it was cancelled.
+    void CancelVerify();
+    void CompareCRCInfos();
+    void WhatROMsChangedReport();
+    void Export();
+    /// The machine whose software was loaded last (SoftwareMachine); the software panel
+    /// keeps it up to date, the software reports read it.
+    void SetSoftwareMachine(std::string machine) { m_softwareMachine = std::move(machine); }
+    const std::string& SoftwareMachine() const { return m_softwareMachine; }
+
+    // Maintenance
+    void Maintenance();
+    void UnneededFileSearch();
+    void UnneededFileRemove();
+    void CleanReports();
+    void CleanOutputDirectories();
+    void DeleteROM();
+    void DeleteSamples();
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -141,6 +175,25 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Reports' steps
+    void ConnectReportControls();
+    MachineListView* AuditList();
+    void RunVerify(VerifyKind kind);
+    void ShowLastReport(VerifyKind kind);
+    void EnterReportPage(const QString& caption);
+    void ShowReportFile(const std::filesystem::path& file);
+    void OfferBadSets();
+    void LeaveReportPage();
+    void ListBadSets();
+    void PrintReportPage();
+    bool RunMame(const std::string& commandLine, const std::function<bool()>& whileRunning);
+    void ShowHeadings(const ReportHeadings& headings);
+    void ShowLink(int index, bool shown);
+    void UpdateReportMenus();
+    void ShowListMenu(MachineListView& list, const QPoint& at);
+    bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
+    std::string MaintenanceMachine();
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -155,6 +208,7 @@ private:
     void PanelClearSoftware();
     void ShowPage(QWidget* page);
     void SetLinksOrButtons();
+    void RestoreListCommands();
     void LinkClicked(int index);
     void ConnectControls();
     void EmptyTempFolder();
@@ -187,6 +241,10 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+    std::string m_softwareMachine;
+    bool m_verifyRunning = false;    // MAME verifies; the window waits for it
+    bool m_cancelVerify = false;     // the user asked to stop it
+    bool m_closeAfterVerify = false; // the window was closed meanwhile
 };
 
 } // namespace coinlight

@@ -232,11 +232,35 @@ void frmMain::ReturnList1() {
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
+    RestoreListCommands();
     SetStartCommands(list != c.lvUnavailable && list->Model().rowCount() != 0);
 }
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    MachineListView* list = ListOfView();
+    if (list->Model().rowCount() != 0) {
+        ShowDetails(*list);
+    }
+    RestoreListCommands();
+    SetStartCommands(list != m_controls.lvUnavailable && list->Model().rowCount() != 0);
+}
+
+void frmMain::RestoreListCommands() {
+    // A page over the lists took the commands away (DisableFormButtons); the view gives
+    // back those of its family.
+    const MainControls& c = m_controls;
+    UpdateCommandSet();
+    if (ListOfView() == c.lvUnavailable) {
+        SetFamilyCheckBoxes(false);
+        const bool hasRows = c.lvUnavailable->Model().rowCount() != 0;
+        for (QWidget* control :
+             {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
+              static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
+              static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
+            control->setEnabled(hasRows);
+        }
+    }
 }
 
 } // namespace coinlight
