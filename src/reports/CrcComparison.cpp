@@ -4,9 +4,9 @@
 #include <array>
 #include <cmath>
 #include <numeric>
-#include <unordered_map>
 
 #include "catalogue/QuotedFieldReader.h"
+#include "lists/ShortNameHash.h"
 
 namespace coinlight {
 
@@ -16,19 +16,26 @@ constexpr int kReadStep = 5;
 
 /// A table of records that shrinks from the front: the live records stand at First and
 /// after. Removing one moves the record at First into its place, so nothing ever shifts.
+/// It also knows where each record stands, for the index below.
 class CrcList {
 public:
     explicit CrcList(std::span<const CrcEntry> entries)
-        : m_entries(entries), m_order(entries.size()) {
+        : m_entries(entries), m_order(entries.size()), m_position(entries.size()) {
         std::iota(m_order.begin(), m_order.end(), 0u);
+        std::iota(m_position.begin(), m_position.end(), 0u);
     }
 
     std::size_t First() const { return m_first; }
     std::size_t Count() const { return m_order.size(); }
     const CrcEntry& At(std::size_t position) const { return m_entries[m_order[position]]; }
+    std::span<const CrcEntry> Entries() const { return m_entries; }
+    /// Where a record (by its index in the file) stands now; below First it is removed.
+    std::size_t PositionOf(std::uint32_t record) const { return m_position[record]; }
 
     void Remove(std::size_t position) {
         std::swap(m_order[m_first], m_order[position]);
+        m_position[m_order[m_first]] = static_cast<std::uint32_t>(m_first);
+        m_position[m_order[position]] = static_cast<std::uint32_t>(position);
         ++m_first;
     }
 
@@ -43,60 +50,77 @@ public:
 
 private:
     std::span<const CrcEntry> m_entries;
-    std::vector<std::uint32_t> m_order;
+    std::vector<std::uint32_t> m_order;    // position -> record
+    std::vector<std::uint32_t> m_position; // record -> position
     std::size_t m_first = 0;
 };
 
-/// A CrcList that knows where each name lies among its live records, lowest position
-/// first, so that the first live match of a name is found without a scan.
-class IndexedCrcList {
+/// The records of a list by name: an open-addressed table of the first record of each
+/// name, the others of the same name chained behind it. Built once; removals need no
+/// update, since the list tells where each record stands.
+class NameIndex {
 public:
-    explicit IndexedCrcList(std::span<const CrcEntry> entries) : m_list(entries) {
-        m_positions.reserve(entries.size());
-        for (std::size_t position = 0; position < m_list.Count(); ++position) {
-            m_positions[m_list.At(position).name].push_back(static_cast<std::uint32_t>(position));
+    static constexpr std::uint32_t kNone = 0xFFFFFFFFu;
+
+    explicit NameIndex(std::span<const CrcEntry> entries) : m_entries(entries) {
+        std::size_t capacity = 16;
+        while (capacity < entries.size() * 2) {
+            capacity *= 2;
+        }
+        m_slots.assign(capacity, kNone);
+        m_next.assign(entries.size(), kNone);
+        std::vector<std::uint32_t> last(entries.size(), kNone); // the chain's end, by its head
+        for (std::uint32_t record = 0; record < entries.size(); ++record) {
+            std::uint32_t& slot = m_slots[SlotOf(entries[record].name, entries[record].nameHash)];
+            if (slot == kNone) {
+                slot = record;
+                last[record] = record;
+            } else {
+                m_next[last[slot]] = record;
+                last[slot] = record;
+            }
         }
     }
 
-    const CrcList& List() const { return m_list; }
-
-    /// The live positions of a name, in ascending order.
-    std::span<const std::uint32_t> PositionsOf(std::string_view name) const {
-        const auto found = m_positions.find(name);
-        return found == m_positions.end() ? std::span<const std::uint32_t>()
-                                          : std::span<const std::uint32_t>(found->second);
+    /// The first record of a name, then the next with Next; kNone at the end.
+    std::uint32_t First(const CrcEntry& entry) const {
+        return m_slots[SlotOf(entry.name, entry.nameHash)];
     }
-
-    void Remove(std::size_t position) {
-        const std::size_t first = m_list.First();
-        auto& removed = m_positions[m_list.At(position).name];
-        removed.erase(std::find(removed.begin(), removed.end(), position));
-        if (position != first) {
-            // The record at First takes the removed one's place.
-            auto& moved = m_positions[m_list.At(first).name];
-            moved.erase(std::find(moved.begin(), moved.end(), first));
-            moved.insert(std::upper_bound(moved.begin(), moved.end(), position),
-                         static_cast<std::uint32_t>(position));
-        }
-        m_list.Remove(position);
-    }
+    std::uint32_t Next(std::uint32_t record) const { return m_next[record]; }
 
 private:
-    CrcList m_list;
-    std::unordered_map<std::string_view, std::vector<std::uint32_t>> m_positions;
-};
-
-/// The first live record of `last` that `matches` the new record, by the scan order the
-/// report has always used.
-template <class Match>
-std::optional<std::size_t> FirstMatch(const IndexedCrcList& last, const CrcEntry& entry,
-                                      Match matches) {
-    for (const std::uint32_t position : last.PositionsOf(entry.name)) {
-        if (matches(last.List().At(position))) {
-            return position;
+    /// The slot of a name, or the empty one where it would go.
+    std::size_t SlotOf(std::string_view name, std::size_t hash) const {
+        const std::size_t mask = m_slots.size() - 1;
+        for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
+            const std::uint32_t slot = m_slots[at];
+            if (slot == kNone ||
+                (m_entries[slot].nameHash == hash && m_entries[slot].name == name)) {
+                return at;
+            }
         }
     }
-    return std::nullopt;
+
+    std::span<const CrcEntry> m_entries;
+    std::vector<std::uint32_t> m_slots;
+    std::vector<std::uint32_t> m_next;
+};
+
+/// The first live record of `last` that `matches` the new record, in the order a scan from
+/// First would meet it.
+template <class Match>
+std::optional<std::size_t> FirstMatch(const CrcList& last, const NameIndex& names,
+                                      const CrcEntry& entry, Match matches) {
+    std::optional<std::size_t> first;
+    for (std::uint32_t record = names.First(entry); record != NameIndex::kNone;
+         record = names.Next(record)) {
+        const std::size_t position = last.PositionOf(record);
+        if (position >= last.First() && (!first || position < *first) &&
+            matches(last.Entries()[record])) {
+            first = position;
+        }
+    }
+    return first;
 }
 
 void AppendSection(std::string& text, std::string_view heading,
@@ -112,32 +136,37 @@ void AppendSection(std::string& text, std::string_view heading,
 
 } // namespace
 
-CrcFile ParseCrcFile(std::string bytes) {
-    CrcFile file;
-    file.bytes = std::move(bytes);
-    QuotedFieldReader reader(file.bytes);
+CrcEntry CrcEntry::Of(std::string_view name, std::string_view description, std::string_view crcs) {
+    return {name, description, crcs, ShortNameHash{}(name)};
+}
+
+CrcRecords ParseCrcRecords(std::string_view text) {
+    CrcRecords records;
+    QuotedFieldReader reader(text);
     std::array<std::string_view, 3> fields;
     while (!reader.AtEnd()) {
         std::size_t filled = 0;
         if (!reader.ReadFields(fields, filled)) {
-            file.error = RunTimeError{kErrorPastEnd, kPastEndText, kReadStep};
+            records.error = RunTimeError{kErrorPastEnd, kPastEndText, kReadStep};
             break;
         }
-        file.entries.push_back({fields[0], fields[1], fields[2]});
+        records.entries.push_back(CrcEntry::Of(fields[0], fields[1], fields[2]));
     }
-    return file;
+    return records;
 }
 
 CrcChanges CompareCrcLists(std::span<const CrcEntry> newList, std::span<const CrcEntry> lastList) {
     CrcList added(newList);
-    IndexedCrcList removed(lastList);
+    CrcList removed(lastList);
+    const NameIndex names(lastList);
     CrcChanges changes;
 
     // Machines that stayed as they were leave both tables.
     for (std::size_t i = added.First(), end = added.Count(); i < end; ++i) {
         const CrcEntry& entry = added.At(i);
-        const auto same = FirstMatch(
-            removed, entry, [&entry](const CrcEntry& old) { return old.crcs == entry.crcs; });
+        const auto same = FirstMatch(removed, names, entry, [&entry](const CrcEntry& old) {
+            return old.crcs == entry.crcs;
+        });
         if (same) {
             added.Remove(i);
             removed.Remove(*same);
@@ -145,15 +174,16 @@ CrcChanges CompareCrcLists(std::span<const CrcEntry> newList, std::span<const Cr
     }
     // A name in both tables now is a machine whose ROMs changed.
     for (std::size_t i = added.First(), end = added.Count(); i < end; ++i) {
-        const auto renamed = FirstMatch(removed, added.At(i), [](const CrcEntry&) { return true; });
+        const auto renamed =
+            FirstMatch(removed, names, added.At(i), [](const CrcEntry&) { return true; });
         if (renamed) {
-            changes.changed.push_back(removed.List().At(*renamed));
+            changes.changed.push_back(removed.At(*renamed));
             added.Remove(i);
             removed.Remove(*renamed);
         }
     }
     changes.added = added.Live();
-    changes.removed = removed.List().Live();
+    changes.removed = removed.Live();
     return changes;
 }
 

@@ -11,20 +11,23 @@
 
 namespace coinlight {
 
-/// One record of crcinfo.txt: a machine and its ROMs, the list compared as one text.
+/// One record of crcinfo.txt: a machine and its ROMs, the list compared as one text. The
+/// hash of the name is taken while the record is read, when its bytes are at hand.
 struct CrcEntry {
     std::string_view name;
     std::string_view description;
     std::string_view crcs;
+    std::size_t nameHash = 0;
+
+    static CrcEntry Of(std::string_view name, std::string_view description, std::string_view crcs);
 };
 
-/// A crcinfo.txt read whole; the entries point into `bytes`.
-struct CrcFile {
-    std::string bytes;
+/// The records of a crcinfo.txt held in memory; the entries point into that text.
+struct CrcRecords {
     std::vector<CrcEntry> entries;
-    std::optional<RunTimeError> error; // set when the file ends inside a record
+    std::optional<RunTimeError> error; // set when the text ends inside a record
 };
-CrcFile ParseCrcFile(std::string bytes);
+CrcRecords ParseCrcRecords(std::string_view text);
 
 /// What a new MAME did to the machines with ROMs.
 struct CrcChanges {

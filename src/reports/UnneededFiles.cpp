@@ -1,7 +1,10 @@
 #include "UnneededFiles.h"
 
 #include <algorithm>
-#include <filesystem>
+#include <cerrno>
+#include <dirent.h>
+#include <memory>
+#include <sys/stat.h>
 
 #include "PermissionAdvice.h"
 #include "core/TextCase.h"
@@ -15,25 +18,47 @@ constexpr int kScanStep = 2;
 
 struct FolderListing {
     std::vector<std::string> files;
-    std::error_code error;
+    int error = 0;
+};
+
+/// Closes the folder however the listing ends.
+struct FolderCloser {
+    void operator()(DIR* folder) const { ::closedir(folder); }
 };
 
 /// The plain files of a folder in name order. A folder that is not there holds nothing.
 FolderListing ListFiles(const std::string& folder) {
     FolderListing listing;
-    std::error_code error;
-    if (folder.empty() || !std::filesystem::is_directory(folder, error)) {
+    if (folder.empty()) {
         return listing;
     }
-    std::filesystem::directory_iterator entries(folder, listing.error);
-    for (const std::filesystem::directory_iterator end; !listing.error && entries != end;
-         entries.increment(listing.error)) {
-        if (entries->is_regular_file(error)) {
-            listing.files.push_back(entries->path().filename().string());
+    const std::unique_ptr<DIR, FolderCloser> entries(::opendir(folder.c_str()));
+    if (!entries) {
+        listing.error = errno == ENOENT || errno == ENOTDIR ? 0 : errno;
+        return listing;
+    }
+    const int descriptor = ::dirfd(entries.get());
+    while (const dirent* entry = ::readdir(entries.get())) {
+        bool file = entry->d_type == DT_REG;
+        if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
+            struct stat info {};
+            file = ::fstatat(descriptor, entry->d_name, &info, 0) == 0 && S_ISREG(info.st_mode);
+        }
+        if (file) {
+            listing.files.emplace_back(entry->d_name);
         }
     }
     std::sort(listing.files.begin(), listing.files.end());
     return listing;
+}
+
+std::string_view BaseName(std::string_view file) {
+    return file.substr(0, file.rfind('.'));
+}
+
+std::string_view Extension(std::string_view file) {
+    const std::size_t dot = file.rfind('.');
+    return dot == std::string_view::npos ? std::string_view() : file.substr(dot + 1);
 }
 
 } // namespace
@@ -42,22 +67,8 @@ std::string RomFolderFile::Text() const {
     return folder + "|" + file + (duplicate ? " {Duplicate}" : "");
 }
 
-std::string BaseNameOf(std::string_view file) {
-    const std::size_t dot = file.rfind('.');
-    return ToLowerAscii(dot == std::string_view::npos ? file : file.substr(0, dot));
-}
-
-std::string ExtensionOf(std::string_view file) {
-    const std::size_t dot = file.rfind('.');
-    return dot == std::string_view::npos ? std::string() : ToLowerAscii(file.substr(dot + 1));
-}
-
-void NeededNames::AddName(std::string name) {
-    m_names.insert(std::move(name));
-}
-
 void NeededNames::Add(const MachineRow& row) {
-    AddName(ToLowerAscii(row.ShortName()));
+    m_names.Insert(row.ShortName());
     for (const int column : {ColRomOf, ColDeviceRomsRequired}) {
         const std::string_view value = row.Field(column);
         if (value == "N/A") {
@@ -68,7 +79,7 @@ void NeededNames::Add(const MachineRow& row) {
         std::size_t begin = 0;
         for (;;) {
             const std::size_t end = value.find(';', begin);
-            AddName(ToLowerAscii(value.substr(begin, end - begin)));
+            m_names.Insert(value.substr(begin, end - begin));
             if (end == std::string_view::npos) {
                 break;
             }
@@ -78,43 +89,41 @@ void NeededNames::Add(const MachineRow& row) {
 }
 
 void NeededNames::AddRows(std::span<const MachineRow> rows) {
-    m_names.reserve(m_names.size() + rows.size() * 2);
+    m_names.Reserve(m_names.Size() + rows.size() + 64);
     for (const MachineRow& row : rows) {
         Add(row);
     }
 }
 
-bool NeededNames::Contains(std::string_view baseName) const {
-    return m_names.contains(baseName);
-}
-
 RomFolderScan ScanRomFolders(const std::vector<std::string>& arcadeFolders,
                              const std::vector<std::string>& otherFolders, SetFormat format,
                              const std::function<void(const std::string& folder)>& searching) {
-    const std::string expected = format == SetFormat::SevenZip ? "7z" : "zip";
+    const std::string_view expected = format == SetFormat::SevenZip ? "7z" : "zip";
     RomFolderScan scan;
-    std::unordered_set<std::string, ShortNameHash, std::equal_to<>> seen;
-    for (const auto* folders : {&arcadeFolders, &otherFolders}) {
-        for (const std::string& folder : *folders) {
-            if (searching) {
-                searching(folder);
-            }
-            FolderListing listing = ListFiles(folder);
-            if (listing.error) {
-                scan.error = UnneededSearchError(
-                    FailureDescription(listing.error) + " (" + folder + ")", kScanStep);
-                return scan;
-            }
-            for (std::string& file : listing.files) {
-                RomFolderFile entry{folder, std::move(file), false};
-                if (ExtensionOf(entry.file) != expected) {
-                    scan.surplus.push_back(std::move(entry));
-                } else if (!seen.insert(BaseNameOf(entry.file)).second) {
-                    entry.duplicate = true;
-                    scan.surplus.push_back(std::move(entry));
-                } else {
-                    scan.found.push_back(std::move(entry));
-                }
+    scan.folders = arcadeFolders;
+    scan.folders.insert(scan.folders.end(), otherFolders.begin(), otherFolders.end());
+    CaseFoldedNames seen;
+    for (std::uint32_t index = 0; index < scan.folders.size(); ++index) {
+        const std::string& folder = scan.folders[index];
+        if (searching) {
+            searching(folder);
+        }
+        FolderListing listing = ListFiles(folder);
+        if (listing.error != 0) {
+            scan.error = UnneededSearchError(
+                FailureDescription(std::error_code(listing.error, std::generic_category())) + " (" +
+                    folder + ")",
+                kScanStep);
+            return scan;
+        }
+        seen.Reserve(seen.Size() + listing.files.size());
+        for (std::string& file : listing.files) {
+            if (!EqualsIgnoringCase(Extension(file), expected)) {
+                scan.surplus.push_back({folder, std::move(file), false});
+            } else if (!seen.Insert(BaseName(file))) {
+                scan.surplus.push_back({folder, std::move(file), true});
+            } else {
+                scan.found.push_back({index, std::move(file)});
             }
         }
     }
@@ -141,9 +150,9 @@ UnneededSearch CompareWithLists(RomFolderScan scan, const NeededNames& needed,
         return search;
     }
     std::size_t done = 0;
-    for (RomFolderFile& entry : scan.found) {
-        if (!needed.Contains(BaseNameOf(entry.file))) {
-            search.entries.push_back(std::move(entry));
+    for (RomFolderScan::FoundSet& set : scan.found) {
+        if (!needed.Contains(BaseName(set.file))) {
+            search.entries.push_back({scan.folders[set.folder], std::move(set.file), false});
             search.orphanFound = true;
         }
         if (compared && (++done == 1 || done % 25 == 0 || done == scan.found.size())) {

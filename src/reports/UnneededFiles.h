@@ -5,12 +5,11 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
+#include "CaseFoldedNames.h"
 #include "core/UserMessage.h"
 #include "lists/MachineRow.h"
-#include "lists/ShortNameHash.h"
 
 namespace coinlight {
 
@@ -28,10 +27,6 @@ struct RomFolderFile {
     bool operator==(const RomFolderFile&) const = default;
 };
 
-/// The lower-cased name of a file without its last extension, and that extension.
-std::string BaseNameOf(std::string_view file);
-std::string ExtensionOf(std::string_view file);
-
 /// The short names the lists need: each row's own, its BIOS and the text of its device
 /// column, compared without regard to case. The device column holds "Yes" or "No" rather
 /// than a name, so a set called yes or no always counts as needed.
@@ -39,20 +34,24 @@ class NeededNames {
 public:
     void Add(const MachineRow& row);
     void AddRows(std::span<const MachineRow> rows);
-    bool Contains(std::string_view baseName) const;
-    std::size_t Size() const { return m_names.size(); }
+    bool Contains(std::string_view baseName) const { return m_names.Contains(baseName); }
+    std::size_t Size() const { return m_names.Size(); }
 
 private:
-    void AddName(std::string lowerCaseName);
-
-    std::unordered_set<std::string, ShortNameHash, std::equal_to<>> m_names;
+    CaseFoldedNames m_names;
 };
 
 /// The ROM folders read once: files of another format and second copies go straight to
 /// the surplus list; the rest wait for the comparison with the lists.
 struct RomFolderScan {
+    /// A set of the chosen format, by the index of its folder.
+    struct FoundSet {
+        std::uint32_t folder = 0;
+        std::string file;
+    };
+    std::vector<std::string> folders; // arcade then other, as searched
     std::vector<RomFolderFile> surplus;
-    std::vector<RomFolderFile> found;
+    std::vector<FoundSet> found;
     std::optional<UserMessage> error;
 };
 

@@ -1,5 +1,6 @@
 #include "WhatRomsChanged.h"
 
+#include "core/BigMemory.h"
 #include "core/TextFile.h"
 
 namespace coinlight {
@@ -38,14 +39,14 @@ WhatRomsChangedRun CompareCrcInfoFiles(const std::filesystem::path& newFile,
     if (run.missing) {
         return run;
     }
-    auto newBytes = ReadFileBytes(newFile);
-    auto lastBytes = ReadFileBytes(lastFile);
-    if (!newBytes || !lastBytes) {
+    const auto newText = FileText::Open(newFile);
+    const auto lastText = FileText::Open(lastFile);
+    if (!newText || !lastText) {
         run.error = RunTimeError{kErrorFileNotFound, kFileNotFoundText, 5};
         return run;
     }
-    const CrcFile newList = ParseCrcFile(std::move(*newBytes));
-    const CrcFile lastList = ParseCrcFile(std::move(*lastBytes));
+    const CrcRecords newList = ParseCrcRecords(newText->View());
+    const CrcRecords lastList = ParseCrcRecords(lastText->View());
     if (newList.error || lastList.error) {
         run.error = newList.error ? newList.error : lastList.error;
         return run;

@@ -115,10 +115,10 @@ TEST(WhatRomsChanged, SectionsComeInTheOrderOfTheShrinkingTables) {
         }
         std::vector<CrcEntry> newList, lastList;
         for (const auto& [name, crcs] : newPairs) {
-            newList.push_back({name, "new", crcs});
+            newList.push_back(CrcEntry::Of(name, "new", crcs));
         }
         for (const auto& [name, crcs] : lastPairs) {
-            lastList.push_back({name, "old", crcs});
+            lastList.push_back(CrcEntry::Of(name, "old", crcs));
         }
         const CrcChanges expected = ScanningComparison(newList, lastList);
         const CrcChanges actual = CompareCrcLists(newList, lastList);

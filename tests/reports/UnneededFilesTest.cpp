@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "lists/MachineRow.h"
+#include "reports/CaseFoldedNames.h"
 #include "reports/UnneededMove.h"
 #include "support/TestFiles.h"
 
@@ -128,4 +129,23 @@ TEST(UnneededDestination, TheMameFolderWhenWritableElseTheDataFolder) {
               std::string::npos);
     EXPECT_TRUE(question.noIsDefault);
     EXPECT_EQ(EmptyRemovalSelectionMessage().text, "You must select at least 1 file to remove.");
+}
+
+TEST(CaseFoldedNames, GrowsAndFindsNamesWhateverTheirCaseOrLength) {
+    CaseFoldedNames names;
+    const std::string longName(100, 'Q');
+    for (int i = 0; i < 5000; ++i) {
+        EXPECT_TRUE(names.Insert("Set" + std::to_string(i)));
+    }
+    EXPECT_TRUE(names.Insert(longName));
+    EXPECT_FALSE(names.Insert("SET42")) << "already there in another case";
+    EXPECT_FALSE(names.Insert(std::string(100, 'q')));
+    EXPECT_EQ(names.Size(), 5001u);
+    for (int i = 0; i < 5000; i += 7) {
+        EXPECT_TRUE(names.Contains("sEt" + std::to_string(i))) << i;
+    }
+    EXPECT_FALSE(names.Contains("set5000"));
+    EXPECT_FALSE(names.Contains(""));
+    EXPECT_TRUE(names.Insert(""));
+    EXPECT_TRUE(names.Contains(""));
 }
