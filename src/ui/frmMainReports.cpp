@@ -1,5 +1,7 @@
 // The audit of the selected machine, MAME's reports on the whole collection, what changed
 // between two MAME versions, and the export and printing of what the report page shows.
+#include <array>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMenuBar>
@@ -37,6 +39,35 @@ const QString kPrintRole = QStringLiteral("&Print");
 QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+/// The start row waits while MAME works for a report: a start or another audit from inside
+/// the wait would run MAME twice at once. Each command gets its own state back.
+class StartRowPause {
+public:
+    explicit StartRowPause(const MainControls& c)
+        : m_commands{c.cmdStart,
+                     c.cmdAudit,
+                     c.cmdInfo,
+                     c.lblBLinks[LinkStart],
+                     c.lblBLinks[LinkAudit],
+                     c.lblBLinks[LinkInfo]} {
+        for (std::size_t i = 0; i < m_commands.size(); ++i) {
+            m_enabled[i] = m_commands[i]->isEnabled();
+            m_commands[i]->setEnabled(false);
+        }
+    }
+    ~StartRowPause() {
+        for (std::size_t i = 0; i < m_commands.size(); ++i) {
+            m_commands[i]->setEnabled(m_enabled[i]);
+        }
+    }
+    StartRowPause(const StartRowPause&) = delete;
+    StartRowPause& operator=(const StartRowPause&) = delete;
+
+private:
+    std::array<QWidget*, 6> m_commands;
+    std::array<bool, 6> m_enabled{};
+};
 
 } // namespace
 
@@ -129,8 +160,10 @@ bool frmMain::RunMame(const std::string& commandLine, const std::function<bool()
         m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
     }
     if (run.IsFatal()) {
+        // The program ends once the routine that waited has unwound.
         m_context.flags.fatalErrorFlag = true;
-        close();
+        m_verifyRunning = false;
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
         return false;
     }
     return run.outcome != ExecOutcome::Cancelled;
@@ -183,13 +216,16 @@ void frmMain::Audit() {
     menuBar()->setEnabled(false);
 
     const bool romRequired = row->Field(ColRomRequired) != "No";
-    for (const std::string& line : commandLines) {
-        if (!RunMame(line, [] {
-                QApplication::processEvents();
-                return true;
-            })) {
-            QApplication::restoreOverrideCursor();
-            return;
+    {
+        const StartRowPause pause(c);
+        for (const std::string& line : commandLines) {
+            if (!RunMame(line, [] {
+                    QApplication::processEvents();
+                    return true;
+                })) {
+                QApplication::restoreOverrideCursor();
+                return;
+            }
         }
     }
     AuditFacts facts;
@@ -313,14 +349,18 @@ void frmMain::RunVerify(VerifyKind kind) {
     menuBar()->setEnabled(false);
     c.verifyPage->SetCancelShown(true);
     ReportTail tail(output / report.fileName);
-    const bool finished = RunMame(*commandLine, [this, &tail] {
-        QApplication::processEvents();
-        const std::string added = tail.NewLines();
-        if (!added.empty()) {
-            m_controls.verifyPage->AppendText(added);
-        }
-        return !m_cancelVerify;
-    });
+    bool finished = false;
+    {
+        const StartRowPause pause(c);
+        finished = RunMame(*commandLine, [this, &tail] {
+            QApplication::processEvents();
+            const std::string added = tail.NewLines();
+            if (!added.empty()) {
+                m_controls.verifyPage->AppendText(added);
+            }
+            return !m_cancelVerify;
+        });
+    }
     m_verifyRunning = false;
     c.verifyPage->SetCancelShown(false);
     menuBar()->setEnabled(true);

@@ -57,9 +57,11 @@ TEST_F(MaintenanceWindow, ThePageOffersTheSelectedMachineOrNone) {
     EXPECT_TRUE(Control<QRadioButton>("optCurrent")->isChecked());
     EXPECT_EQ(Panel(2), "pacman");
     EXPECT_FALSE(Controls().cmdArcadeSettings->isEnabled());
+    EXPECT_FALSE(Controls().cmdStart->isEnabled()) << "the start row acts on the hidden list";
     Control("cmdGameList2")->click();
     EXPECT_EQ(Page(), Controls().fraList);
     EXPECT_TRUE(Controls().cmdArcadeSettings->isEnabled());
+    EXPECT_TRUE(Controls().cmdStart->isEnabled());
 
     Form().ViewUnavailableArcade();
     Controls().lvUnavailable->Model().Clear();

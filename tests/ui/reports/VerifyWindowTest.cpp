@@ -1,5 +1,6 @@
 // MAME's reports on the whole collection, List Bad Sets and printing, What ROMs Changed and
 // the export of a list.
+#include <QMenuBar>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QTimer>
@@ -81,7 +82,9 @@ TEST_F(VerifyWindow, CancelEndsMameWhileTheReportGrowsOnThePage) {
     m_mame.SetBehaviour("slowlines 400\n");
     QString seenWhileRunning;
     bool cancelShown = false;
+    bool auditWaited = false;
     QTimer::singleShot(1000, [&] {
+        auditWaited = !Controls().cmdAudit->isEnabled() && !Form().menuBar()->isEnabled();
         seenWhileRunning = Report();
         auto* cancel = Controls().fraVerify->findChild<QWidget*>(QStringLiteral("lblCancelVerify"));
         cancelShown = cancel != nullptr && !cancel->isHidden();
@@ -94,6 +97,8 @@ TEST_F(VerifyWindow, CancelEndsMameWhileTheReportGrowsOnThePage) {
     EXPECT_TRUE(seenWhileRunning.contains("romset pacman [puckman] is bad"))
         << "the first lines show while MAME still works: " << seenWhileRunning.toStdString();
     EXPECT_TRUE(cancelShown);
+    EXPECT_TRUE(auditWaited) << "no second MAME run can start from inside the wait";
+    EXPECT_TRUE(Controls().cmdAudit->isEnabled());
     EXPECT_EQ(Report(), "Verify Cancelled");
     EXPECT_TRUE(
         Controls().fraVerify->findChild<QWidget*>(QStringLiteral("lblCancelVerify"))->isHidden());
