@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ctime>
 #include <functional>
+#include <utility>
 
 namespace coinlight::bench {
 
@@ -22,6 +23,20 @@ inline double BestCpuMilliseconds(int rounds, const std::function<void()>& work)
         best = std::min(best, now() - start);
     }
     return best;
+}
+
+/// The best processor times of two pieces of work run in turn, so that both meet the same
+/// moments of a busy machine; first of `first`, then of `second`.
+inline std::pair<double, double> BestCpuMillisecondsInTurn(int rounds,
+                                                           const std::function<void()>& first,
+                                                           const std::function<void()>& second) {
+    double bestFirst = 1e300;
+    double bestSecond = 1e300;
+    for (int round = 0; round < rounds; ++round) {
+        bestFirst = std::min(bestFirst, BestCpuMilliseconds(1, first));
+        bestSecond = std::min(bestSecond, BestCpuMilliseconds(1, second));
+    }
+    return {bestFirst, bestSecond};
 }
 
 } // namespace coinlight::bench

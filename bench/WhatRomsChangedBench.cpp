@@ -89,8 +89,7 @@ int main(int argc, char** argv) {
     };
     const double floorWall = bench::BestMilliseconds(9, readBoth);
     const double compareWall = bench::BestMilliseconds(9, compare);
-    const double floorCpu = bench::BestCpuMilliseconds(9, readBoth);
-    const double compareCpu = bench::BestCpuMilliseconds(9, compare);
+    const auto [floorCpu, compareCpu] = bench::BestCpuMillisecondsInTurn(25, readBoth, compare);
     const std::string olderText = *ReadFileBytes(last);
     const CrcRecords older = ParseCrcRecords(olderText);
     const CrcChanges changes = CompareCrcLists(current.entries, older.entries);

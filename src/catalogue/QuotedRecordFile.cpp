@@ -10,6 +10,14 @@
 
 namespace coinlight {
 
+void AppendWithoutQuotes(std::string& out, std::string_view field) {
+    for (auto quote = field.find('"'); quote != std::string_view::npos; quote = field.find('"')) {
+        out.append(field.substr(0, quote));
+        field.remove_prefix(quote + 1);
+    }
+    out.append(field);
+}
+
 void WriteMachineRecord(AtomicFileWriter& out, const MachineFields& fields) {
     std::string line;
     AppendQuotedRecord(line, fields.values);

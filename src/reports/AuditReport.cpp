@@ -4,6 +4,7 @@
 
 #include "PermissionAdvice.h"
 #include "core/TextFile.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

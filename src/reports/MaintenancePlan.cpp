@@ -4,6 +4,7 @@
 #include <array>
 
 #include "PermissionAdvice.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

@@ -6,10 +6,6 @@
 
 namespace coinlight {
 
-std::string NoPermissionSentence(const std::filesystem::path& where) {
-    return "You have no permission to write in " + where.string() + ".";
-}
-
 bool IsPermissionFailure(const std::error_code& error) {
     if (error.category() != std::generic_category() && error.category() != std::system_category()) {
         return false;

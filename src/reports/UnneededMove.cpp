@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "PermissionAdvice.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

@@ -1,6 +1,6 @@
 #include "WhatRomsChanged.h"
 
-#include "core/BigMemory.h"
+#include "CrcInfoFile.h"
 #include "core/TextFile.h"
 
 namespace coinlight {
@@ -39,14 +39,14 @@ WhatRomsChangedRun CompareCrcInfoFiles(const std::filesystem::path& newFile,
     if (run.missing) {
         return run;
     }
-    const auto newText = FileText::Open(newFile);
-    const auto lastText = FileText::Open(lastFile);
+    const auto newText = ReadCrcInfoFile(newFile);
+    const auto lastText = ReadCrcInfoFile(lastFile);
     if (!newText || !lastText) {
         run.error = RunTimeError{kErrorFileNotFound, kFileNotFoundText, 5};
         return run;
     }
-    const CrcRecords newList = ParseCrcRecords(newText->View());
-    const CrcRecords lastList = ParseCrcRecords(lastText->View());
+    const CrcRecords& newList = newText->records;
+    const CrcRecords& lastList = lastText->records;
     if (newList.error || lastList.error) {
         run.error = newList.error ? newList.error : lastList.error;
         return run;

@@ -95,7 +95,6 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    QWidget* picSpacer = nullptr;
     MachineListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 

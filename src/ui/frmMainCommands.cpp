@@ -130,6 +130,9 @@ void frmMain::CreateMAMEIni() {
 }
 
 void frmMain::PlayArcade() {
+    if (m_context.flags.emulatorRunning) {
+        return;
+    }
     MachineListView* list = ListOfView();
     list->setFocus();
     m_commandString.clear();
@@ -180,19 +183,8 @@ void frmMain::PlayArcade() {
     }
     m_commandString = plan.commandLine;
 
-    // The emulator has the screen to itself until it ends.
-    hide();
-    const ExecResult run = ExecCmd(m_commandString, m_context.preferences.searchPaths.mame, [] {
-        QApplication::processEvents();
-        return true;
-    });
-    if (!run.message.empty()) {
-        m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
-        if (run.IsFatal()) {
-            m_context.flags.fatalErrorFlag = true;
-            close();
-            return;
-        }
+    if (!RunEmulator(m_commandString)) {
+        return;
     }
     if (const auto failure = WriteLastRun(m_context.data, m_commandString)) {
         ShowMessage(m_prompter, *failure);
@@ -210,6 +202,27 @@ void frmMain::PlayArcade() {
     if (output.errorOutput) {
         ShowErrorOutput(*output.errorOutput);
     }
+}
+
+bool frmMain::RunEmulator(const std::string& commandLine) {
+    // The emulator has the screen to itself until it ends; a second start of Coinlight
+    // meanwhile must not bring the window back over it.
+    hide();
+    m_context.flags.emulatorRunning = true;
+    const ExecResult run = ExecCmd(commandLine, m_context.preferences.searchPaths.mame, [] {
+        QApplication::processEvents();
+        return true;
+    });
+    m_context.flags.emulatorRunning = false;
+    if (!run.message.empty()) {
+        m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
+        if (run.IsFatal()) {
+            m_context.flags.fatalErrorFlag = true;
+            close();
+            return false;
+        }
+    }
+    return true;
 }
 
 void frmMain::PlayOther() {

@@ -9,9 +9,10 @@ using namespace coinlight::test;
 
 namespace {
 
-constexpr const char* kAdvice =
-    "\n\nThis may mean Coinlight is installed in a Windows protected folder (such as Program "
-    "Files).\nCoinlight needs to be installed in an unprotected folder.";
+std::string Advice(CatalogueFolder& folder) {
+    return "\n\nThis may mean you do not have permission to read or write files in " +
+           folder.Output().string() + ".";
+}
 
 void RestoreFixtures(CatalogueFolder& folder) {
     WriteFile(folder.Output() / "machine.xml",
@@ -85,7 +86,8 @@ TEST(CatalogueBadInput, AFileCutOffInsideADeviceOrASkippedMachine) {
 TEST(CatalogueBadInput, AnEmptyFileOrGarbageLeavesNoFilterFileToSpace) {
     CatalogueFolder folder;
     const std::string noFilterFile =
-        std::string("Error In CreateSupportFiles: File not found\nLine Number: 110") + kAdvice;
+        std::string("Error In CreateSupportFiles: File not found\nLine Number: 110") +
+        Advice(folder);
     ExpectFailureThenRecovery(folder, MachineXml(folder, ""), noFilterFile);
     std::string garbage;
     for (int i = 0; i < 65536; ++i) {
@@ -98,7 +100,8 @@ TEST(CatalogueBadInput, AMissingMachineListOrListsFileWithoutItsOtherLine) {
     CatalogueFolder folder;
     ExpectFailureThenRecovery(
         folder, [&] { std::filesystem::remove(folder.Output() / "machine.xml"); },
-        std::string("Error In CreateSupportFiles: File not found\nLine Number: 40") + kAdvice);
+        std::string("Error In CreateSupportFiles: File not found\nLine Number: 40") +
+            Advice(folder));
     ExpectFailureThenRecovery(
         folder,
         [&] {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "catalogue/MachineFields.h"
@@ -43,6 +44,20 @@ TEST(QuotedRecord, WrittenRecordsReadBackFieldForField) {
     EXPECT_EQ(load.records[1].Field(MachineField::Images), "Raster, Raster");
     EXPECT_EQ(load.records[1].Field(21), "f21");
     EXPECT_EQ(load.records[0], ToMachineRecord(SampleMachine("pacman")));
+}
+
+TEST(QuotedRecord, NoFieldEverHoldsADoubleQuote) {
+    MachineFields fields = SampleMachine("cybots");
+    fields[MachineField::Category] = "Fighter / \"Versus\" \"";
+    fields[MachineField::Machine] = "\"Quoted\" title";
+    std::string line;
+    AppendQuotedRecord(line, fields.values);
+    const auto load = ParseMachineRecords(line);
+    ASSERT_FALSE(load.error) << line;
+    ASSERT_EQ(load.records.size(), 1u);
+    EXPECT_EQ(load.records[0].Field(MachineField::Category), "Fighter / Versus ");
+    EXPECT_EQ(load.records[0].Field(MachineField::Machine), "Quoted title");
+    EXPECT_EQ(std::count(line.begin(), line.end(), '"'), 44);
 }
 
 TEST(QuotedRecord, ReaderAcceptsLfEmptyFieldsAndTrailingBlankLines) {

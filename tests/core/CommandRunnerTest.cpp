@@ -65,8 +65,9 @@ TEST(CommandRunner, AVanishedMameFolderGivesTheDriveMessageAndRunsNothing) {
     const ExecResult result = ExecCmd("echo x > " + QuotePath(out.string()), gone, nullptr);
     EXPECT_EQ(result.outcome, ExecOutcome::FolderUnavailable);
     EXPECT_FALSE(result.IsFatal());
-    EXPECT_EQ(result.message,
-              "There is a problem communicating with the drive MAME is on.  Try again.");
+    EXPECT_EQ(result.message, "The MAME folder " + gone.string() +
+                                  " cannot be reached.  Check the MAME path in Options and "
+                                  "try again.");
     EXPECT_FALSE(std::filesystem::exists(out));
 }
 

@@ -38,8 +38,10 @@ TEST(AuditReport, AMissingCaptureNamesTheFolderAndLeavesNoCaptureBehind) {
     WriteFile(temp / "lroms.txt", "ROMs required\n");
     const AuditReport report = MakeAuditReport({true, true}, temp.Path());
     EXPECT_TRUE(report.capturesMissing);
-    EXPECT_EQ(report.text, "Unable to find audit file(s).  You have no permission to write in " +
-                               temp.Path().string() + ".");
+    EXPECT_EQ(report.text,
+              "Unable to find audit file(s).  This may mean you do not have permission to "
+              "read or write files in " +
+                  temp.Path().string() + ".");
     EXPECT_EQ(CountFiles(temp.Path()), 0u);
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "reports/CrcInfoFile.h"
 #include "reports/WhatRomsChanged.h"
 #include "support/TestFiles.h"
 
@@ -163,4 +164,41 @@ TEST(WhatRomsChanged, MissingFilesAreToldAndBrokenFilesEndInTheErrorText) {
     WriteFile(lastFile, binary);
     run = CompareCrcInfoFiles(newFile, lastFile, std::nullopt);
     EXPECT_TRUE(run.error || !run.text.empty());
+}
+
+TEST(CrcInfoFile, BlockByBlockReadsWhatTheWholeTextHolds) {
+    // Records over several blocks of the reader; in some files one record's fields run
+    // over a line end, once inside a block and once across a block's edge, which only a
+    // reading of the whole text can follow.
+    constexpr std::size_t kBlockEdge = std::size_t{1} << 19;
+    TempFolder folder;
+    std::mt19937 random(6);
+    for (int round = 0; round < 4; ++round) {
+        std::string text;
+        const auto fill = [&](std::size_t size) {
+            for (int i = 0; text.size() < size; ++i) {
+                text += Record("m" + std::to_string(text.size()), "Machine",
+                               std::string(static_cast<std::size_t>(random() % 400), 'c') + ";");
+            }
+        };
+        const std::size_t splitAt = round == 1 ? 1000 : kBlockEdge - 700;
+        fill(splitAt);
+        if (round == 1 || round == 2) {
+            text += "\"split\",\"Split\",\r\n\"" + std::string(1000, 'c') + ";\"\r\n";
+        }
+        fill(1'500'000);
+        if (round == 3) {
+            text.resize(text.size() - 7); // the last record cut inside its last field
+        }
+        const auto file = folder / "crcinfo.txt";
+        WriteFile(file, text);
+        const auto read = ReadCrcInfoFile(file);
+        ASSERT_TRUE(read);
+        const CrcRecords whole = ParseCrcRecords(text);
+        EXPECT_EQ(Names(read->records.entries), Names(whole.entries)) << "round " << round;
+        EXPECT_EQ(read->records.error.has_value(), whole.error.has_value()) << "round " << round;
+        // A line end after a comma ends the record's fields early: the rest is out of step.
+        EXPECT_EQ(whole.error.has_value(), round == 1 || round == 2);
+    }
+    EXPECT_FALSE(ReadCrcInfoFile(folder / "none.txt"));
 }

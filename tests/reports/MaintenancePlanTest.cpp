@@ -120,7 +120,7 @@ TEST_F(OutputFolderPlans, FilesAreDeletedFoldersTrashedAndAFailureStopsTheRest) 
     EXPECT_EQ(message.title, "Maintenance");
     EXPECT_NE(message.text.find("Error In CleanOutputDirectories: "), std::string::npos);
     EXPECT_NE(
-        message.text.find("You have no permission to write in " + m_folders.cfg.string() + "."),
+        message.text.find("permission to read or write files in " + m_folders.cfg.string() + "."),
         std::string::npos)
         << message.text;
 }

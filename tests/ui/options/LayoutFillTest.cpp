@@ -77,11 +77,14 @@ TEST_F(LayoutFill, ThePackagedLayoutTakesSharedDataAndTheUsersFolder) {
     EXPECT_EQ(texts[PathField::Cfg], (m_locations.home / ".mame" / "cfg").string());
 }
 
-TEST_F(LayoutFill, WithoutRomsOrAHomeOnlyTheRequiredAndSharedFoldersAreNamed) {
+TEST_F(LayoutFill, WithoutAHomeNoUserFolderIsNamed) {
     PathTexts texts;
     FillFromLayout(m_folder / "bin", m_locations, texts);
     EXPECT_EQ(texts[PathField::ArcadeRoms], (m_locations.home / ".mame" / "roms").string());
-    EXPECT_EQ(texts[PathField::OtherRoms], "");
+    EXPECT_EQ(texts[PathField::OtherRoms], texts[PathField::ArcadeRoms])
+        << "the one ROM folder is named for every family, made or not";
+    EXPECT_EQ(texts[PathField::Software], texts[PathField::ArcadeRoms]);
+    EXPECT_EQ(texts[PathField::Hash], "") << "an optional folder of MAME's own stays out";
 
     m_locations.home.clear();
     PathTexts homeless;

@@ -8,11 +8,6 @@ namespace {
 
 using Texts = QStringList;
 
-void MakeExecutable(const std::filesystem::path& file) {
-    WriteFile(file, "#!/bin/sh\n");
-    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-}
-
 TEST_F(OptionsDialog, AFirstRunStartsFromTheMameOnThePathAndFillsAroundIt) {
     const std::string games = Folder("games");
     MakeExecutable(m_folder / "games" / "mame");
@@ -45,7 +40,9 @@ TEST_F(OptionsDialog, APackagedMameIsAcceptedAsFilled) {
     m_request.firstRun = true;
     auto form = Open();
     EXPECT_EQ(Text(*form, "txtArcadeROMPath"), roms.string());
-    EXPECT_EQ(Text(*form, "txtMESSROMPath"), "") << "optional, and not there yet";
+    EXPECT_EQ(Text(*form, "txtMESSROMPath"), roms.string())
+        << "not there yet, but OK makes it: a first run fills what any later one fills";
+    EXPECT_EQ(Text(*form, "txtMESSSoftwarePath"), roms.string());
     EXPECT_EQ(Text(*form, "txtMESSHashPath"), share + "/hash");
     EXPECT_EQ(Text(*form, "txtCtrlrPath"), share + "/ctrlr");
     EXPECT_EQ(Text(*form, "txtNvramPath"), (m_folder / "home" / ".mame" / "nvram").string());
@@ -198,7 +195,12 @@ TEST_F(OptionsDialog, TheMamePathMustNameAnExecutableOutsideTheRoot) {
         {"/usr/games/", "You must select your MAME executable."},
         {"/mame", "MAME should not reside in the root."},
         {"games/mame", "MAME should not reside in the root."},
+        {"/opt/nomame/mame",
+         "It appears that something is wrong with your MAME path.  Please try again."},
+        {(m_folder / "not-a-program").string(),
+         "It appears that something is wrong with your MAME path.  Please try again."},
     };
+    WriteFile(m_folder / "not-a-program", "text, and not executable");
     for (const auto& [path, message] : cases) {
         ScriptedPrompter prompter;
         frmOptions form(m_context, prompter, m_request);

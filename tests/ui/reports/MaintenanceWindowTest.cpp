@@ -151,7 +151,7 @@ TEST_F(MaintenanceWindow, AllFilesStopAtAFileThatCannotBeRemoved) {
     EXPECT_EQ(m_prompter.Prompts()[1].title, "Maintenance");
     EXPECT_TRUE(m_prompter.Prompts()[1].text.startsWith("Error In CleanOutputDirectories: "));
     EXPECT_TRUE(m_prompter.Prompts()[1].text.endsWith(QString::fromStdString(
-        "You have no permission to write in " + (m_folder / "cfg").string() + ".")));
+        "do not have permission to read or write files in " + (m_folder / "cfg").string() + ".")));
     EXPECT_TRUE(FileExists(m_folder / "snap" / "pacman.png")) << "the kinds after it wait";
 }
 
