@@ -22,5 +22,6 @@ std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
 std::vector<ToolCommand> ReportCommands();
+std::vector<ToolCommand> RebuildCommands();
 
 } // namespace coinlight

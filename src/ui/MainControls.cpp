@@ -9,6 +9,7 @@
 #include "MachineListView.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -70,6 +71,14 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
     c.mnuTools = tools;
+    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
+    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
+    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
+    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
+    // The report belongs to the reports menu once there is one.
+    c.mnuReportsRebuild =
+        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
+    tools->addSeparator();
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
@@ -122,6 +131,9 @@ void BuildReportMenus(QMainWindow& window, MainControls& c) {
     c.mnuReportsWhatROMsChangedReport =
         AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChangedReport",
                   QStringLiteral("Last What ROMs Changed Report"));
+    // The settings' rebuild report has waited in Tools for this menu.
+    c.mnuTools->removeAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsRebuild);
     c.mnuReports->addSeparator();
     c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
 
@@ -258,6 +270,10 @@ QWidget* BuildSideColumn(MainControls& c) {
         AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
     layout->addWidget(c.cmdArcadeSettings);
     layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
+    c.cboSettings = Named(new QComboBox(side), QStringLiteral("cboSettings"));
+    c.cboSettings->setToolTip(QStringLiteral("The Class Of Machines These Settings Are For"));
+    c.cboSettings->hide();
+    layout->addWidget(c.cboSettings);
     layout->addWidget(c.cmdOtherSettings);
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
@@ -291,7 +307,10 @@ MainControls BuildMainControls(QMainWindow& window) {
     auto* left = new QVBoxLayout;
 
     c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
-    c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
+    c.fraDefaults = new SettingsPage;
+    for (auto [index, link] : c.fraDefaults->MainLinks()) {
+        c.lblBLinks[static_cast<std::size_t>(index)] = link;
+    }
     c.maintenancePage = new MaintenancePage;
     c.fraMaintenance = c.maintenancePage;
     for (QWidget* page :

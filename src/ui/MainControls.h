@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -19,6 +20,7 @@ namespace coinlight {
 
 class MachineListView;
 class MaintenancePage;
+class SettingsPage;
 class VerifyPage;
 
 /// The link-style twins of the command buttons, by their index.
@@ -30,8 +32,17 @@ enum LinkIndex : int {
     LinkStart = 4,
     LinkAudit = 5,
     LinkInfo = 6,
+    LinkOK = 7,
+    LinkRestore = 8,
+    LinkCancel = 9,
     LinkReturnList1 = 11,
-    kLinkCount = 12,
+    LinkHLSLPath = 19,
+    LinkHLSLDefaults = 20,
+    LinkYIQDefaults = 21,
+    LinkVectorPostDefaults = 22,
+    LinkBloomPostDefaults = 23,
+    LinkBGFXPath = 24,
+    kLinkCount = 25,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -48,12 +59,17 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuToolsArcade = nullptr;
+    QAction* mnuToolsOther = nullptr;
+    QAction* mnuToolsCustom = nullptr;
+    QAction* mnuToolsRebuild = nullptr;
+    QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
     // the right-click menu of the lists
     QMenu* mnuMain = nullptr;
-    QMenu* mnuTools = nullptr;
     QAction* mnuMainAudit = nullptr;
     QAction* mnuMainExport = nullptr;
     QAction* mnuToolsMaintenance = nullptr;
@@ -82,7 +98,7 @@ struct MainControls {
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
     VerifyPage* verifyPage = nullptr; // fraVerify as the page it is
-    QGroupBox* fraDefaults = nullptr;
+    SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
     MaintenancePage* maintenancePage = nullptr; // fraMaintenance as the page it is
     QGroupBox* fraPleaseWait = nullptr;
@@ -107,6 +123,7 @@ struct MainControls {
     QPushButton* cmdInfo = nullptr;
     QPushButton* cmdArcadeSettings = nullptr;
     QPushButton* cmdOtherSettings = nullptr;
+    QComboBox* cboSettings = nullptr; // the class profile of an arcade settings screen
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;

@@ -17,6 +17,7 @@
 #include "frmSplash.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -47,7 +48,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
-    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
     for (auto [box, which] :
@@ -86,6 +87,7 @@ void frmMain::ConnectControls() {
         });
     }
     ConnectReportControls();
+    ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
@@ -96,8 +98,46 @@ void frmMain::ConnectControls() {
 
 void frmMain::LinkClicked(int index) {
     switch (index) {
+    case LinkArcadeSettings:
+        SettingsArcade();
+        break;
+    case LinkOtherSettings:
+        SettingsOther();
+        break;
     case LinkExit:
-        close();
+        // On a settings screen the command reads Cancel and leaves the screen.
+        if (SettingsScreenOpen()) {
+            Cancel();
+        } else {
+            close();
+        }
+        break;
+    case LinkOK:
+        OK();
+        break;
+    case LinkRestore:
+        Restore();
+        break;
+    case LinkCancel:
+        Cancel();
+        break;
+    case LinkHLSLPath:
+        HLSLPath();
+        break;
+    case LinkHLSLDefaults:
+        SetDefaultsOf(DefaultsGroup::HLSL);
+        break;
+    case LinkYIQDefaults:
+        SetDefaultsOf(DefaultsGroup::YIQ);
+        break;
+    case LinkVectorPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Vector);
+        break;
+    case LinkBloomPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Bloom);
+        break;
+    case LinkBGFXPath:
+        BGFXPath();
         break;
     case LinkStart:
         if (m_inOtherView) {
@@ -248,9 +288,9 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 bool frmMain::HasCommand(int link) const {
-    // The settings screens and the information panel are not built yet: their buttons and
-    // links stay out of sight until they are.
-    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkInfo;
+    // The information panel is not built yet: its button and link stay out of sight until it
+    // is.
+    return link != LinkInfo;
 }
 
 void frmMain::SetStartCommands(bool enabled) {
@@ -327,6 +367,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     QWidget* page = m_controls.pages->currentWidget();
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
+    } else if (page == m_controls.fraDefaults) {
+        OK();
     } else if (page == m_controls.fraVerify) {
         if (m_controls.cmdGameList->isEnabled()) { // not while a report is being made
             ReturnList1();

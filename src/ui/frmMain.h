@@ -20,6 +20,9 @@
 #include "reports/MaintenancePlan.h"
 #include "reports/ReportHeading.h"
 #include "reports/VerifyReports.h"
+#include "settings/ProfileSave.h"
+#include "settings/SettingsOk.h"
+#include "settings/SettingsScreens.h"
 #include "settings/StartBoxes.h"
 
 namespace coinlight {
@@ -102,6 +105,16 @@ public:
     void CleanOutputDirectories();
     void DeleteROM();
     void DeleteSamples();
+
+    // Settings screens
+    void SettingsArcade();
+    void SettingsOther();
+    void CustomSettings();
+    void OK();
+    void Cancel();
+    void Restore();
+    void RebuildSettings();
+    void RebuildReport();
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -201,6 +214,34 @@ private:
     bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
     std::string MaintenanceMachine();
 
+    // Settings screens' steps
+    void ConnectSettingsControls();
+    void DefineCombos();
+    void LoadcboBIOS();
+    void ChooseProfileName();
+    void cboSettingsClicked();
+    void RasterSettings();
+    void VectorSettings();
+    void LCDSettings();
+    void ShowSettingsScreen(SettingsScreen screen);
+    void LoadControls();
+    void ShowRuleFailures(const std::vector<UserMessage>& failures);
+    /// Disables what a page over the lists must not be used with; a settings screen also
+    /// turns Exit into Cancel.
+    void CoverCommands(bool settingsScreen);
+    void UncoverCommands();
+    void LeaveSettings();
+    bool SettingsScreenOpen() const;
+    void UpdateSettingsMenu();
+    void SetDefaultsOf(DefaultsGroup group);
+    void BGFXPath();
+    void HLSLPath();
+    void ShaderFolder(const char* what, const char* control);
+    void GLSLShader(int index);
+    void SelectControllerMap();
+    void ShowRebuildText(const QString& caption, const std::string& text);
+    SettingsScreenFacts ScreenFacts() const;
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -241,8 +282,17 @@ private:
     std::vector<std::string> m_artworkFolders;
     std::string m_cabinetPath; // where the cabinet pictures lie
     std::vector<std::string> m_softwareFolders;
-    std::string m_profileName;   // the class profile in force (ProfileName)
-    std::string m_commandString; // "Other Commands", then the last command line
+    std::string m_profileName;                  // the class profile in force (ProfileName)
+    std::string m_commandString;                // "Other Commands", then the last command line
+    std::string m_displayType;                  // of the machine a settings screen opened for
+    std::string m_selectedMachine;              // likewise
+    std::filesystem::path m_currentProfilePath; // the profile the last load or save used
+    struct CoveredCommand {
+        QWidget* widget;
+        bool enabled;
+        bool visible;
+    };
+    std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;

@@ -16,15 +16,8 @@ namespace coinlight {
 void frmMain::Maintenance() {
     const MainControls& c = m_controls;
     ShowPage(c.fraMaintenance);
-    DisableFormButtons();
+    CoverCommands(false); // the start row acts on the list, which the page hides
     PanelTextHide();
-    // The start row acts on the list, which the page hides.
-    SetStartCommands(false);
-    for (QWidget* control : {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
-                             static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
-                             static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
-        control->setEnabled(false);
-    }
     const MachineRow* row = ListOfView()->SelectedMachine();
     // A red row of the other list has nothing of MAME's to clear.
     const bool offered = row != nullptr && !(m_inOtherView && !row->Available());

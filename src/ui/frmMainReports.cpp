@@ -126,7 +126,7 @@ void frmMain::UpdateReportMenus() {
     for (QAction* entry :
          {c.mnuReportsROMs->menuAction(), c.mnuReportsVerifyROMs, c.mnuReportsLastROM,
           c.mnuReportsWhatsChanged->menuAction(), c.mnuReportsWhatROMsChanged,
-          c.mnuReportsWhatROMsChangedReport, c.mnuReportsFind}) {
+          c.mnuReportsWhatROMsChangedReport, c.mnuReportsRebuild, c.mnuReportsFind}) {
         entry->setEnabled(onList);
     }
     c.mnuReportsSamples->menuAction()->setEnabled(onList && !m_inOtherView);

@@ -237,12 +237,11 @@ void frmMain::ReturnList1() {
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    UncoverCommands();
     MachineListView* list = ListOfView();
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
-    RestoreListCommands();
-    SetStartCommands(list != m_controls.lvUnavailable && list->Model().rowCount() != 0);
 }
 
 void frmMain::RestoreListCommands() {

@@ -50,7 +50,9 @@ protected:
 
 TEST_F(MaintenanceWindow, ThePageOffersTheSelectedMachineOrNone) {
     ASSERT_TRUE(Load()) << Told();
+    AddRom("pacman");
     Select(Controls().lvAll, "pacman");
+    ASSERT_TRUE(Controls().cmdStart->isEnabled());
     Controls().mnuToolsMaintenance->trigger();
     EXPECT_EQ(Page(), Controls().fraMaintenance);
     EXPECT_TRUE(Control<QRadioButton>("optCurrent")->isEnabled());
