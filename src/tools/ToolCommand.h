@@ -22,6 +22,7 @@ std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
 std::vector<ToolCommand> ReportCommands();
+std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
 
 } // namespace coinlight

@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "info/InfoSourceList.h"
+#include "info/SnapshotPane.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
@@ -49,6 +51,7 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
     c.mnuMain = main;
+    c.mnuMainInfo = AddAction(main, "mnuMainInfo", QStringLiteral("Information"));
     c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
 
     c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
@@ -82,6 +85,33 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
+/// The menu of that name, made at the end of the bar unless another part made it first.
+QMenu* MenuNamed(QMainWindow& window, const char* name, const QString& title) {
+    for (QAction* action : window.menuBar()->actions()) {
+        if (action->menu() != nullptr && action->menu()->objectName() == QLatin1String(name)) {
+            return action->menu();
+        }
+    }
+    QMenu* menu = window.menuBar()->addMenu(title);
+    menu->setObjectName(QString::fromLatin1(name));
+    return menu;
+}
+
+void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
+    QMenu* reports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsUnlistedMachines =
+        AddAction(reports, "mnuReportsUnlistedMachines", QStringLiteral("Unlisted Machines"));
+    QMenu* help = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
+    c.mnuHelpHeritage = AddAction(help, "mnuHelpHeritage", QStringLiteral("Coinlight Info"));
+    c.mnuHelpCommandLines =
+        AddAction(help, "mnuHelpCommandLines", QStringLiteral("MAME Command-Line Options"));
+    c.mnuHelpDefaultKeys =
+        AddAction(help, "mnuHelpDefaultKeys", QStringLiteral("MAME Default Keys"));
+    c.mnuHelpBGFX = AddAction(help, "mnuHelpBGFX", QStringLiteral("MAME BGFX"));
+    c.mnuHelpHLSL = AddAction(help, "mnuHelpHLSL", QStringLiteral("MAME HLSL"));
+    c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
+}
+
 QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
     QMenu* submenu = menu->addMenu(caption);
     submenu->setObjectName(QString::fromLatin1(name));
@@ -94,14 +124,16 @@ void BuildReportMenus(QMainWindow& window, MainControls& c) {
     c.mnuMainAudit->setObjectName(QStringLiteral("mnuMainAudit"));
     c.mnuMainExport = new QAction(QStringLiteral("Export List"), c.mnuMain);
     c.mnuMainExport->setObjectName(QStringLiteral("mnuMainExport"));
-    c.mnuMain->insertActions(c.mnuMainExit, {c.mnuMainAudit, c.mnuMainExport});
+    c.mnuMain->insertAction(c.mnuMainInfo, c.mnuMainAudit);
+    c.mnuMain->insertAction(c.mnuMainExit, c.mnuMainExport);
 
     c.mnuToolsMaintenance = new QAction(QStringLiteral("Maintenance..."), c.mnuTools);
     c.mnuToolsMaintenance->setObjectName(QStringLiteral("mnuToolsMaintenance"));
     c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
 
-    c.mnuReports = window.menuBar()->addMenu(QStringLiteral("&Reports"));
-    c.mnuReports->setObjectName(QStringLiteral("mnuReports"));
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    // The reports come first, the documents and the ini after them.
+    c.mnuReports->removeAction(c.mnuReportsUnlistedMachines);
     c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
     c.mnuReportsVerifyROMs =
         AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
@@ -134,6 +166,7 @@ void BuildReportMenus(QMainWindow& window, MainControls& c) {
     // The settings' rebuild report has waited in Tools for this menu.
     c.mnuTools->removeAction(c.mnuReportsRebuild);
     c.mnuReports->addAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsUnlistedMachines);
     c.mnuReports->addSeparator();
     c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
 
@@ -168,7 +201,11 @@ QWidget* BuildListFrame(MainControls& c) {
                           static_cast<QWidget*>(c.lvUnavailable), c.otherPage}) {
         c.lists->addWidget(list);
     }
-    layout->addWidget(c.lists);
+    layout->addWidget(c.lists, 1);
+    c.picShots = new SnapshotPane;
+    c.lblShots = c.picShots->MissingText();
+    c.picShots->hide();
+    layout->addWidget(c.picShots, 1);
     return c.fraList;
 }
 
@@ -178,6 +215,8 @@ QWidget* BuildVerifyFrame(MainControls& c) {
     c.rtfVerify = c.verifyPage->Report();
     c.cmdGameList = c.verifyPage->ReturnButton();
     c.lblBLinks[LinkReturnList1] = c.verifyPage->ReturnLink();
+    c.lstInfo = new InfoSourceList; // moves with the report page
+    c.verifyPage->SetSidePanel(c.lstInfo);
     return c.fraVerify;
 }
 
@@ -251,14 +290,28 @@ QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
     return row;
 }
 
+QWidget* BuildCabinetRow(MainControls& c) {
+    // Its own height whether or not the machine has an icon: the commands below stay put.
+    auto* cabinet = Named(new QWidget, QStringLiteral("picCabinet"));
+    cabinet->setFixedHeight(34);
+    auto* row = new QHBoxLayout(cabinet);
+    row->setContentsMargins(0, 0, 0, 0);
+    c.picIcon = Named(new QLabel, QStringLiteral("picIcon"));
+    c.picIcon->setFixedSize(32, 32);
+    c.picIcon->hide();
+    c.lblArtwork = Named(new QLabel(QStringLiteral("Artwork")), QStringLiteral("lblArtwork"));
+    c.lblArtwork->setToolTip(QStringLiteral("This Machine Has An Artwork File"));
+    c.lblArtwork->hide();
+    row->addWidget(c.picIcon);
+    row->addWidget(c.lblArtwork);
+    row->addStretch();
+    return cabinet;
+}
+
 QWidget* BuildSideColumn(MainControls& c) {
     auto* side = Named(new QWidget, QStringLiteral("picSide"));
     auto* layout = new QVBoxLayout(side);
-    c.lblShots = Named(new QLabel, QStringLiteral("lblShots"));
-    c.lblShots->setWordWrap(true);
-    c.lblShots->setAlignment(Qt::AlignCenter);
-    c.lblShots->hide();
-    layout->addWidget(c.lblShots);
+    layout->addWidget(BuildCabinetRow(c));
     c.cmdArcadeSettings = AddButton(side, "cmdArcadeSettings", QStringLiteral("Arcade Settings"),
                                     QStringLiteral("Settings For Arcade Machines"));
     c.cmdOtherSettings = AddButton(side, "cmdOtherSettings", QStringLiteral("Other Settings"),
@@ -300,6 +353,7 @@ void SetLinkText(LinkLabel* link, const QString& text) {
 MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
     BuildMenus(window, c);
+    BuildDocumentMenus(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);

@@ -18,8 +18,10 @@ class QMainWindow;
 
 namespace coinlight {
 
+class InfoSourceList;
 class MachineListView;
 class MaintenancePage;
+class SnapshotPane;
 class SettingsPage;
 class VerifyPage;
 
@@ -59,6 +61,7 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainInfo = nullptr;
     QMenu* mnuTools = nullptr;
     QAction* mnuToolsArcade = nullptr;
     QAction* mnuToolsOther = nullptr;
@@ -92,6 +95,14 @@ struct MainControls {
     QMenu* mnuRClick = nullptr;
     QAction* mnuDeleteROM = nullptr;
     QAction* mnuDeleteSamples = nullptr;
+    // Reports and Help menus: the documents
+    QAction* mnuReportsUnlistedMachines = nullptr;
+    QAction* mnuHelpHeritage = nullptr;
+    QAction* mnuHelpCommandLines = nullptr;
+    QAction* mnuHelpDefaultKeys = nullptr;
+    QAction* mnuHelpBGFX = nullptr;
+    QAction* mnuHelpHLSL = nullptr;
+    QAction* mnuHelpGLSL = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
@@ -115,6 +126,12 @@ struct MainControls {
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
+    InfoSourceList* lstInfo = nullptr;
+
+    // The snapshot under the lists, the cabinet icon and the artwork sign beside them
+    SnapshotPane* picShots = nullptr;
+    QLabel* picIcon = nullptr;
+    QLabel* lblArtwork = nullptr;
 
     // Details strip and commands
     std::array<QLabel*, 7> lblPanel{};
@@ -137,7 +154,7 @@ struct MainControls {
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;
+    QLabel* lblShots = nullptr;     // in picShots
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

@@ -94,6 +94,7 @@ void frmMain::ConnectControls() {
     connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
         m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
     });
+    ConnectInformation();
 }
 
 void frmMain::LinkClicked(int index) {
@@ -154,6 +155,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkAudit:
         Audit();
+        break;
+    case LinkInfo:
+        Info();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -287,12 +291,6 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
     }
 }
 
-bool frmMain::HasCommand(int link) const {
-    // The information panel is not built yet: its button and link stay out of sight until it
-    // is.
-    return link != LinkInfo;
-}
-
 void frmMain::SetStartCommands(bool enabled) {
     // Other machines start from their software panel, which is not built yet.
     enabled = enabled && !m_inOtherView;
@@ -312,9 +310,8 @@ void frmMain::SetLinksOrButtons() {
                                               {c.cmdInfo, LinkInfo},
                                               {c.cmdGameList, LinkReturnList1}};
     for (const auto& [button, link] : twins) {
-        const bool shown = HasCommand(link);
-        button->setVisible(!links && shown);
-        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links && shown);
+        button->setVisible(!links);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
     c.verifyPage->SetUseLinks(links);
     c.maintenancePage->SetUseLinks(links);

@@ -12,6 +12,8 @@
 #include "MainControls.h"
 #include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "info/DocumentViewers.h"
+#include "info/InfoSelection.h"
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
@@ -106,6 +108,25 @@ public:
     void DeleteROM();
     void DeleteSamples();
 
+    // Information, pictures and documents
+    void Info();
+    void ViewShots();
+    void LoadSnapshot();
+    void LoadCabinetIcon();
+    void MAMECommandLines();
+    void MAMEDefaultKeys();
+    void MAMEBGFX();
+    void MAMEGLSL();
+    void MAMEHLSL();
+    void Heritage();
+    void Unlisted();
+
+    /// Where MAME's installed manual is looked for, and how an address is opened in the
+    /// desktop's browser (tests point both elsewhere).
+    void SetMameManual(std::filesystem::path manual) { m_mameManual = std::move(manual); }
+    void SetAddressOpener(std::function<bool(const QString&)> open) {
+        m_openAddress = std::move(open);
+    }
     // Settings screens
     void SettingsArcade();
     void SettingsOther();
@@ -214,6 +235,17 @@ private:
     bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
     std::string MaintenanceMachine();
 
+    // Information's steps
+    void ConnectInformation();
+    void InfoSourceClicked(const QString& source);
+    InfoSelection CurrentInfoSelection() const;
+    void SetReturnCommands(bool enabled);
+    void ShowShotsPane(bool open);
+    void LayOutShots();
+    void ShowDocument(DocumentViewer viewer);
+    /// The one document viewer. `afterStart`: the output of a start, whose details strip and
+    /// scrolling line keep what the start left there.
+    void ShowTextPage(const QString& caption, const std::string& text, bool afterStart = false);
     // Settings screens' steps
     void ConnectSettingsControls();
     void DefineCombos();
@@ -248,8 +280,6 @@ private:
     void TickView(QAction* entry);
     void UpdateCommandSet();
     void SetStartCommands(bool enabled);
-    /// Whether the command behind a button and its link exists in this build.
-    bool HasCommand(int link) const;
     void SetFamilyCheckBoxes(bool visible);
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);
@@ -258,7 +288,6 @@ private:
     void PanelClearSoftware();
     void ShowPage(QWidget* page);
     void SetLinksOrButtons();
-    void RestoreListCommands();
     void LinkClicked(int index);
     void ConnectControls();
     void EmptyTempFolder();
@@ -304,6 +333,9 @@ private:
     bool m_verifyRunning = false;    // MAME verifies; the window waits for it
     bool m_cancelVerify = false;     // the user asked to stop it
     bool m_closeAfterVerify = false; // the window was closed meanwhile
+    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
+    std::filesystem::path m_mameManual = DebianManual();
+    std::function<bool(const QString&)> m_openAddress;
 };
 
 } // namespace coinlight

@@ -4,6 +4,7 @@
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "frmMain.h"
+#include "info/InfoSourceList.h"
 
 namespace coinlight {
 
@@ -82,6 +83,8 @@ void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
     MachineListModel& model = list.Model();
     if (model.rowCount() == 0) {
         PanelClearSoftware();
+        LoadSnapshot();
+        LoadCabinetIcon();
         return;
     }
     if (model.SortKey() != saved.sortKey || model.SortOrder() != saved.sortOrder) {
@@ -202,6 +205,8 @@ void frmMain::ShowDetails(MachineListView& list) {
     ApplyDetails(DetailsOf(*row, DetailsSourceOf(list, *row),
                            m_context.preferences.other.mergedRomSets, m_arcadeRomFolders,
                            m_context.data.Settings(), current));
+    LoadSnapshot();
+    LoadCabinetIcon();
 }
 
 void frmMain::ApplyDetails(const SelectionDetails& details) {
@@ -219,6 +224,7 @@ void frmMain::ApplyDetails(const SelectionDetails& details) {
 void frmMain::ReturnList1() {
     const MainControls& c = m_controls;
     ShowPage(c.fraList);
+    c.lstInfo->Retire();
     c.rtfVerify->clear();
     c.cmdFind->setText(QStringLiteral("&MAME.Ini"));
     c.cmdFind->setToolTip(
@@ -228,10 +234,15 @@ void frmMain::ReturnList1() {
     c.cmdExit->setText(QStringLiteral("E&xit"));
     c.cmdExit->setToolTip(QStringLiteral("Closes Coinlight"));
     MachineListView* list = ListOfView();
+    // A text page empties the strip and disables the settings commands: the end of the list
+    // set-up brings both back.
+    c.lblPanel[0]->setText(QStringLiteral("Machines: ") +
+                           QString::number(list->Model().rowCount()));
+    UpdateCommandSet();
+    SetFamilyCheckBoxes(!m_inOtherView && list != c.lvUnavailable);
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
-    RestoreListCommands();
     SetStartCommands(list != c.lvUnavailable && list->Model().rowCount() != 0);
 }
 
@@ -242,23 +253,7 @@ void frmMain::ReturnList2() {
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
-}
-
-void frmMain::RestoreListCommands() {
-    // A page over the lists took the commands away (DisableFormButtons); the view gives
-    // back those of its family.
-    const MainControls& c = m_controls;
-    UpdateCommandSet();
-    if (ListOfView() == c.lvUnavailable) {
-        SetFamilyCheckBoxes(false);
-        const bool hasRows = c.lvUnavailable->Model().rowCount() != 0;
-        for (QWidget* control :
-             {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
-              static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
-              static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
-            control->setEnabled(hasRows);
-        }
-    }
+    LoadSnapshot();
 }
 
 } // namespace coinlight
