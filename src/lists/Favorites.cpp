@@ -1,8 +1,11 @@
 #include "Favorites.h"
 
+#include <algorithm>
 #include <unordered_map>
 
-#include "core/AtomicFileWriter.h"
+#include "RecordScanner.h"
+#include "ShortNameHash.h"
+#include "core/CommandLine.h"
 #include "core/TextCase.h"
 #include "core/TextFile.h"
 
@@ -10,11 +13,15 @@ namespace coinlight {
 
 namespace {
 
-/// The lines of a file without empty ones; none when it cannot be read.
-std::vector<std::string> RecordLines(const std::filesystem::path& file) {
+constexpr std::string_view kAllArcade = "All Arcade Machines";
+constexpr std::string_view kAvailableArcade = "Available Arcade Machines";
+constexpr std::string_view kOtherMachines = "Other Machines";
+
+/// The lines of a favourites file that name a machine; none when it cannot be read.
+std::vector<std::string> FavoriteLines(const std::filesystem::path& file) {
     std::vector<std::string> lines;
     for (auto& line : ReadTextLines(file).value_or(std::vector<std::string>{})) {
-        if (!line.empty()) {
+        if (NamesAMachine(line)) {
             lines.push_back(std::move(line));
         }
     }
@@ -34,6 +41,33 @@ bool ReplaceOrRemove(const std::filesystem::path& file, const std::vector<std::s
         return true;
     }
     return WriteTextLines(file, lines, &error);
+}
+
+/// The first catalogue line of each name asked for, names compared without case.
+using LinesByName =
+    std::unordered_map<std::string, std::string_view, ShortNameHash, std::equal_to<>>;
+
+void FindCatalogueLines(std::string_view catalogue, LinesByName& wanted) {
+    RecordScanner scanner(catalogue);
+    std::string_view line;
+    RecordSpans spans;
+    bool wellFormed = false;
+    std::string key;
+    while (scanner.Next(line, spans, wellFormed)) {
+        if (!wellFormed) {
+            continue;
+        }
+        key.assign(spans.Field(line, ColName));
+        std::transform(key.begin(), key.end(), key.begin(), LowerAscii);
+        const auto found = wanted.find(std::string_view(key));
+        if (found != wanted.end() && found->second.data() == nullptr) {
+            found->second = line;
+        }
+    }
+}
+
+std::string WordOfChangesFile(std::string_view fileName) {
+    return fileName == "arcadefavschanges.txt" ? "Arcade" : "Other";
 }
 
 } // namespace
@@ -68,14 +102,41 @@ std::string FavoriteShortName(const std::vector<std::string>& fields) {
     return fields.empty() ? std::string() : fields[0];
 }
 
+bool NamesAMachine(std::string_view line) {
+    // Old releases wrote names as MAME had them then, capitals included.
+    return IsShortName(ToLowerAscii(FavoriteShortName(SplitFavoriteLine(line))));
+}
+
 std::string RecordLineOf(const MachineRow& row) {
     std::string line;
     for (int column = 0; column < kRecordFieldCount; ++column) {
         line += column == 0 ? "\"" : ",\"";
-        line += row.Field(column);
+        // A quote inside a field would end it early for every reader of the file.
+        const std::string_view field = row.Field(column);
+        std::copy_if(field.begin(), field.end(), std::back_inserter(line),
+                     [](char c) { return c != '"'; });
         line += '"';
     }
     return line;
+}
+
+std::optional<std::string> FavoritesFileOfView(std::string_view view) {
+    if (view == kAllArcade || view == kAvailableArcade) {
+        return "arcadefavs.txt";
+    }
+    if (view == kOtherMachines) {
+        return "otherfavs.txt";
+    }
+    return std::nullopt;
+}
+
+FavoritesMenuState FavoritesMenuOf(std::string_view view, bool favoriteArcade, bool favoriteOther) {
+    const auto file = FavoritesFileOfView(view);
+    if (!file) {
+        return {};
+    }
+    const bool showingFavorites = view == kOtherMachines ? favoriteOther : favoriteArcade;
+    return {!showingFavorites, showingFavorites};
 }
 
 PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
@@ -85,19 +146,20 @@ PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
     if (!std::filesystem::exists(favoritesFile)) {
         return outcome;
     }
-    // One pass over the catalogue: the first line of each name, ignoring case.
-    const std::vector<std::string> catalogue = RecordLines(infoFile);
-    std::unordered_map<std::string, const std::string*> byName;
-    for (const auto& line : catalogue) {
-        byName.emplace(ToLowerAscii(FavoriteShortName(SplitFavoriteLine(line))), &line);
+    std::vector<std::string> names;
+    LinesByName wanted;
+    for (const auto& line : FavoriteLines(favoritesFile)) {
+        names.push_back(FavoriteShortName(SplitFavoriteLine(line)));
+        wanted.emplace(ToLowerAscii(names.back()), std::string_view());
     }
+    const std::string catalogue = ReadFileBytes(infoFile).value_or(std::string());
+    FindCatalogueLines(catalogue, wanted);
     std::vector<std::string> kept;
     std::vector<std::string> removed;
-    for (const auto& line : RecordLines(favoritesFile)) {
-        const std::string name = FavoriteShortName(SplitFavoriteLine(line));
-        const auto found = byName.find(ToLowerAscii(name));
-        if (found != byName.end()) {
-            kept.push_back(*found->second);
+    for (const auto& name : names) {
+        const std::string_view line = wanted.find(ToLowerAscii(name))->second;
+        if (line.data() != nullptr) {
+            kept.emplace_back(line);
         } else {
             removed.push_back(name);
         }
@@ -133,9 +195,23 @@ PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
     return outcome;
 }
 
+bool FavoritesNeedPurge(const std::filesystem::path& favoritesFile) {
+    const std::string text = ReadFileBytes(favoritesFile).value_or(std::string());
+    RecordScanner scanner(text);
+    std::string_view line;
+    RecordSpans spans;
+    bool wellFormed = false;
+    while (scanner.Next(line, spans, wellFormed)) {
+        if (!wellFormed && !line.empty() && line != "\r") {
+            return true;
+        }
+    }
+    return false;
+}
+
 std::vector<FavoritesMessage> AddFavorite(const std::filesystem::path& favoritesFile,
                                           const MachineRow& row, std::string* error) {
-    std::vector<std::string> lines = RecordLines(favoritesFile);
+    std::vector<std::string> lines = FavoriteLines(favoritesFile);
     for (const auto& line : lines) {
         if (FavoriteShortName(SplitFavoriteLine(line)) == row.ShortName()) {
             return {{"Add To Favorites", "Machine already on list.", true}};
@@ -153,7 +229,7 @@ RemoveOutcome RemoveFavorite(const std::filesystem::path& favoritesFile,
                              std::string_view shortName) {
     RemoveOutcome outcome;
     std::vector<std::string> kept;
-    for (auto& line : RecordLines(favoritesFile)) {
+    for (auto& line : FavoriteLines(favoritesFile)) {
         if (FavoriteShortName(SplitFavoriteLine(line)) != shortName) {
             kept.push_back(std::move(line));
         }
@@ -168,6 +244,28 @@ RemoveOutcome RemoveFavorite(const std::filesystem::path& favoritesFile,
              "Your Favorite list is empty.  Coinlight will now return to the full list.", false});
     }
     return outcome;
+}
+
+FavoriteChangesReport FavoriteChanges(const std::filesystem::path& outputFolder,
+                                      std::string_view fileName) {
+    const std::string word = WordOfChangesFile(fileName);
+    FavoriteChangesReport report;
+    report.caption = "Favorite " + word + " Machine Changes";
+    const auto lines = ReadTextLines(outputFolder / fileName);
+    if (!lines) {
+        report.missing = FavoritesMessage{report.caption, "This report does not exist.", false};
+        return report;
+    }
+    report.text = "These machines have been removed from your favorites list because something "
+                  "about them has changed with this version of MAME or MAME no longer supports "
+                  "them.  You can add them again if they are still supported.\n\nNOTE: This list "
+                  "is cumulative.  If you want to reset it, go to the Maintenance screen and "
+                  "delete the Favorite " +
+                  word + " Machine Changes report.\n\n\n";
+    for (const auto& line : *lines) {
+        report.text += line + "\n";
+    }
+    return report;
 }
 
 } // namespace coinlight

@@ -69,6 +69,29 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
+void BuildReportsMenu(QMainWindow& window, MainControls& c) {
+    c.mnuReports = window.menuBar()->addMenu(QStringLiteral("&Reports"));
+    c.mnuReports->setObjectName(QStringLiteral("mnuReports"));
+    c.mnuReportsFavoriteArcadeChanges =
+        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
+                  QStringLiteral("Favorite Arcade Machine Changes"));
+    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
+                                                 QStringLiteral("Favorite Other Machine Changes"));
+}
+
+void BuildListMenu(QMainWindow& window, MainControls& c) {
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
+    c.mnuRemoveFavorite =
+        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
+    c.mnuRefreshSoftware =
+        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
+}
+
 QWidget* BuildListFrame(MainControls& c) {
     c.fraList =
         Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
@@ -79,11 +102,13 @@ QWidget* BuildListFrame(MainControls& c) {
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     c.picSpacer = Named(new QWidget, QStringLiteral("picSpacer"));
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -201,9 +226,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
     c.lblVersion->setAlignment(Qt::AlignCenter);
@@ -257,6 +279,8 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildReportsMenu(window, c);
+    BuildListMenu(window, c);
     return c;
 }
 

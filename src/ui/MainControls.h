@@ -12,6 +12,7 @@
 #include <QTextBrowser>
 
 #include "LinkLabel.h"
+#include "software/SoftwarePanel.h"
 
 class QMainWindow;
 
@@ -29,7 +30,8 @@ enum LinkIndex : int {
     LinkAudit = 5,
     LinkInfo = 6,
     LinkReturnList1 = 11,
-    kLinkCount = 12,
+    LinkListSlots = 25,
+    kLinkCount = 26,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -48,6 +50,17 @@ struct MainControls {
     QAction* mnuMainOptions = nullptr;
     QAction* mnuMainExit = nullptr;
 
+    // Reports menu: the favourites entries
+    QMenu* mnuReports = nullptr;
+    QAction* mnuReportsFavoriteArcadeChanges = nullptr;
+    QAction* mnuReportsFavoriteOtherChanges = nullptr;
+
+    // The lists' right-click menu
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuAddFavorite = nullptr;
+    QAction* mnuRemoveFavorite = nullptr;
+    QAction* mnuRefreshSoftware = nullptr;
+
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
@@ -65,7 +78,8 @@ struct MainControls {
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
     QWidget* picSpacer = nullptr;
-    MachineListView* lvSoftware = nullptr;
+    SoftwarePanel* picSoftware = nullptr; // beside lvOther
+    SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
@@ -85,7 +99,6 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
-    QWidget* picSoftware = nullptr;
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took

@@ -83,6 +83,8 @@ void frmMain::ConnectControls() {
     connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
         m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
     });
+    ConnectSoftwareControls();
+    ConnectFavoritesControls();
 }
 
 void frmMain::LinkClicked(int index) {
@@ -102,6 +104,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkListSlots:
+        ListSlots();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -200,7 +205,6 @@ void frmMain::DisableFormButtons() {
           static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
         control->setEnabled(false);
     }
-    c.picSoftware->hide();
     SetFamilyCheckBoxes(false);
 }
 

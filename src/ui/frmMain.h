@@ -16,6 +16,7 @@
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "settings/MameIniBase.h"
 #include "settings/StartBoxes.h"
 
 namespace coinlight {
@@ -66,6 +67,19 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
+    /// The slot listing of the selected other machine, asked of MAME once per run.
+    void ListSlots();
+
+    // Favourites
+    void AddFavorite();
+    void RemoveFavorite();
+    /// `fileName`: "arcadefavschanges.txt" or "otherfavschanges.txt".
+    void FavoriteChanges(const std::string& fileName);
+
+    // Software of other machines
+    /// Throws the software file of `machine` away and loads the panel anew; with an empty
+    /// name throws every machine's file away and does nothing else.
+    void KillSoftsOther(const std::string& machine);
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
 
@@ -140,7 +154,32 @@ private:
     void RebuildPathArrays();
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
+    /// Runs the command line held in CommandString with the window hidden, then notes it in
+    /// lastrun.txt; false when the run was fatal and the window is closing.
+    bool RunEmulator(const char* routine);
 
+    // The software panel's steps
+    void ConnectSoftwareControls();
+    void OtherItemClick();
+    void SoftwareTimerTick();
+    void ClearSoftwareStuff();
+    void LoadSoftwareLists();
+    void FinishSoftwareLoad();
+    void LoadListsSoftware(const std::string& machine);
+    void SoftwareOptionClicked();
+    void SoftwareColumnClicked(int column);
+    void SoftwareItemClick();
+    /// The one place a double click or Enter in lvSoftware goes: a rule that must act
+    /// before the start belongs at its top.
+    void SoftwareDoubleClick();
+    void UpdateSoftwareControls();
+    void UpdateStartControls();
+    void FillSoftwareState(MameIniBase& base) const;
+
+    // Favourites' steps
+    void ConnectFavoritesControls();
+    void PrepareListMenu(MachineListView& list);
+    void PurgeBeforeViewing(const std::string& word);
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -178,8 +217,13 @@ private:
     std::vector<std::string> m_artworkFolders;
     std::string m_cabinetPath; // where the cabinet pictures lie
     std::vector<std::string> m_softwareFolders;
-    std::string m_profileName;   // the class profile in force (ProfileName)
-    std::string m_commandString; // "Other Commands", then the last command line
+    std::string m_profileName;                  // the class profile in force (ProfileName)
+    std::string m_commandString;                // "Other Commands", then the last command line
+    std::filesystem::path m_currentProfilePath; // the profile a start last built into mame.ini
+    std::string m_softwareMachine;              // whose software the panel shows
+    int m_softwareAvailable = 0;                // iSoftwareA
+    int m_softwareUnavailable = 0;              // iSoftwareU
+    bool m_skipOtherItemClick = false;          // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;

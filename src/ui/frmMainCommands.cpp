@@ -41,6 +41,9 @@ bool frmMain::OpenOptions(bool firstRun) {
         SetLinksOrButtons();
         ApplyListsAppearance();
     }
+    if (outcome.softwarePathChanged) {
+        KillSoftsOther({}); // availability was measured against the old folders
+    }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
     if (outcome.filtersChanged || outcome.pathsChanged) {
@@ -123,6 +126,7 @@ void frmMain::CreateMAMEIni() {
         base.machine = std::string(row->ShortName());
     }
     base.boxes = CurrentStartBoxes();
+    FillSoftwareState(base);
     if (const auto failure = coinlight::CreateMAMEIni(m_context.preferences, base)) {
         ShowMessage(m_prompter, *failure);
         m_context.flags.fatalErrorFlag = true;
@@ -179,25 +183,9 @@ void frmMain::PlayArcade() {
         ShowMessage(m_prompter, *plan.strayIniWarning);
     }
     m_commandString = plan.commandLine;
-
-    // The emulator has the screen to itself until it ends.
-    hide();
-    const ExecResult run = ExecCmd(m_commandString, m_context.preferences.searchPaths.mame, [] {
-        QApplication::processEvents();
-        return true;
-    });
-    if (!run.message.empty()) {
-        m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
-        if (run.IsFatal()) {
-            m_context.flags.fatalErrorFlag = true;
-            close();
-            return;
-        }
+    if (!RunEmulator("PlayArcade")) {
+        return;
     }
-    if (const auto failure = WriteLastRun(m_context.data, m_commandString)) {
-        ShowMessage(m_prompter, *failure);
-    }
-    show();
     SetStartBoxes(AfterArcadeStart(CurrentStartBoxes()));
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {
@@ -212,8 +200,26 @@ void frmMain::PlayArcade() {
     }
 }
 
-void frmMain::PlayOther() {
-    // Starting other machines needs their software panel; until it exists they cannot start.
+bool frmMain::RunEmulator(const char* routine) {
+    // The emulator has the screen to itself until it ends.
+    hide();
+    const ExecResult run = ExecCmd(m_commandString, m_context.preferences.searchPaths.mame, [] {
+        QApplication::processEvents();
+        return true;
+    });
+    if (!run.message.empty()) {
+        m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
+        if (run.IsFatal()) {
+            m_context.flags.fatalErrorFlag = true;
+            close();
+            return false;
+        }
+    }
+    if (const auto failure = WriteLastRun(m_context.data, m_commandString, routine)) {
+        ShowMessage(m_prompter, *failure);
+    }
+    show();
+    return true;
 }
 
 void frmMain::ShowStandardOutput(const std::string& text) {
