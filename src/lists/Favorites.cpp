@@ -103,8 +103,13 @@ std::string FavoriteShortName(const std::vector<std::string>& fields) {
 }
 
 bool NamesAMachine(std::string_view line) {
-    // Old releases wrote names as MAME had them then, capitals included.
-    return IsShortName(ToLowerAscii(FavoriteShortName(SplitFavoriteLine(line))));
+    const std::vector<std::string> fields = SplitFavoriteLine(line);
+    // A few fields are a record cut short, not a line of an old release, which held the
+    // name alone, as MAME had it then, capitals included.
+    if (fields.size() > 1 && fields.size() < 21) {
+        return false;
+    }
+    return IsShortName(ToLowerAscii(FavoriteShortName(fields)));
 }
 
 std::string RecordLineOf(const MachineRow& row) {

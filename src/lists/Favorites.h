@@ -23,7 +23,7 @@ std::vector<std::string> SplitFavoriteLine(std::string_view line);
 std::string FavoriteShortName(const std::vector<std::string>& fields);
 
 /// A line that names a machine: a record, or the name alone as old releases wrote it.
-/// Anything else (a line cut short, binary noise) names nothing and is not kept when the
+/// Anything else (a record cut short, binary noise) names nothing and is not kept when the
 /// file is written again.
 bool NamesAMachine(std::string_view line);
 

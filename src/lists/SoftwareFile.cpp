@@ -3,6 +3,7 @@
 #include "catalogue/SoftwareCatalogue.h"
 #include "core/CommandLine.h"
 #include "core/FileTests.h"
+#include "SoftwareRows.h"
 
 namespace coinlight {
 
@@ -20,6 +21,10 @@ UserMessage Information(std::string title, std::string text) {
 
 std::filesystem::path SoftwareFileOf(const DataLayout& data, std::string_view machine) {
     return data.Software() / (std::string(machine) + ".txt");
+}
+
+bool SoftwareFileTakesLong(const std::filesystem::path& file) {
+    return FileSize(file).value_or(0) >= kLongSoftwareFile;
 }
 
 SoftwareFilePreparation PrepareSoftwareFile(const DataLayout& data,

@@ -14,6 +14,9 @@ namespace coinlight {
 /// output/soft/<machine>.txt: a machine's software, made from software.xml on first view.
 std::filesystem::path SoftwareFileOf(const DataLayout& data, std::string_view machine);
 
+/// True for a software file that is worth a warning before it loads: 900,001 bytes or more.
+bool SoftwareFileTakesLong(const std::filesystem::path& file);
+
 enum class SoftwareFileStatus {
     Ready,         // the file exists, made now or earlier: load it
     NoSoftwareXml, // show `message`; nothing to load

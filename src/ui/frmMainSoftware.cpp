@@ -5,7 +5,6 @@
 #include "UserMessagePrompt.h"
 #include "WaitCursor.h"
 #include "catalogue/SoftwareCatalogue.h"
-#include "core/FileTests.h"
 #include "frmMain.h"
 #include "frmSplash.h"
 #include "lists/SoftwareFile.h"
@@ -108,8 +107,7 @@ void frmMain::LoadSoftwareLists() {
         FinishSoftwareLoad();
         return;
     }
-    const auto file = SoftwareFileOf(m_context.data, loadingMachine);
-    if (FileSize(file).value_or(0) >= kLongSoftwareFile) {
+    if (SoftwareFileTakesLong(SoftwareFileOf(m_context.data, loadingMachine))) {
         c.lblPanel[1]->setText(QString::fromLatin1(kLongLoad));
         c.lblPanel[1]->repaint();
     }
