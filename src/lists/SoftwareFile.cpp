@@ -1,9 +1,9 @@
 #include "SoftwareFile.h"
 
+#include "SoftwareRows.h"
 #include "catalogue/SoftwareCatalogue.h"
 #include "core/CommandLine.h"
 #include "core/FileTests.h"
-#include "SoftwareRows.h"
 
 namespace coinlight {
 

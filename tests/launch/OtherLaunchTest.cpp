@@ -18,7 +18,8 @@ const std::filesystem::path kExecutable = "/games/My MAME/mame";
 
 OtherStartRequest Request(std::string lists = "msx1_cart;msx1_flop") {
     OtherStartRequest request;
-    request.selection = OtherMachineSelection{"hb75p", "cart1;cart2;flop1", std::move(lists), false};
+    request.selection =
+        OtherMachineSelection{"hb75p", "cart1;cart2;flop1", std::move(lists), false};
     request.softwareListEmpty = false;
     request.title = SoftwareTitle{"Cart", "zanac", "N/A", "N/A"};
     return request;
@@ -195,7 +196,8 @@ struct OtherSetup {
 TEST(PrepareOtherLaunch, TheCommandLineWithAndWithoutTitleAndOtherCommands) {
     OtherSetup setup;
     const auto line = [&](std::string_view args) {
-        const OtherLaunchPlan plan = PrepareOtherLaunch(setup.context, setup.Base(), args, {}, false);
+        const OtherLaunchPlan plan =
+            PrepareOtherLaunch(setup.context, setup.Base(), args, {}, false);
         EXPECT_EQ(plan.verdict, OtherLaunchVerdict::Ready);
         return plan.commandLine;
     };

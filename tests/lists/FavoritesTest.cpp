@@ -1,7 +1,6 @@
 #include "lists/Favorites.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 
 #include "RecordBuilder.h"
@@ -82,16 +81,16 @@ TEST(Favorites, AddingTwiceSaysSoAndRemovingTheLastEmptiesTheList) {
 TEST(Favorites, GarbageLinesAreDroppedByEveryRewriteAndTheRecordsKept) {
     TempFolder folder;
     const auto favourites = folder / "otherfavs.txt";
-    const std::string garbage = std::string("\x01\xff\x7f;rm -rf\r\n\"\",\"\r\n") +
-                                "\"Cut\",\"1987\",\"Go\r\n";
+    const std::string garbage =
+        std::string("\x01\xff\x7f;rm -rf\r\n\"\",\"\r\n") + "\"Cut\",\"1987\",\"Go\r\n";
     WriteFile(favourites, RecordLine(Record("a500")) + garbage + RecordLine(Record("nes")));
     EXPECT_TRUE(FavoritesNeedPurge(favourites));
     const MachineRow row(test::Views(Record("a500")), "", true);
     ASSERT_EQ(AddFavorite(favourites, row).size(), 1u) << "found past the noise";
     const MachineRow snes(test::Views(Record("snes")), "", true);
     EXPECT_TRUE(AddFavorite(favourites, snes).empty());
-    EXPECT_EQ(ReadFile(favourites), RecordLine(Record("a500")) + RecordLine(Record("nes")) +
-                                        RecordLine(Record("snes")));
+    EXPECT_EQ(ReadFile(favourites),
+              RecordLine(Record("a500")) + RecordLine(Record("nes")) + RecordLine(Record("snes")));
     EXPECT_FALSE(FavoritesNeedPurge(favourites));
 
     WriteFile(favourites, garbage + RecordLine(Record("nes")));
@@ -185,8 +184,7 @@ TEST(Favorites, OnePassOverTheCatalogueGivesWhatRereadingItGave) {
     for (int i = 0; i < 150; ++i) {
         const std::string name = "m" + std::to_string(random() % 400);
         // Every fifth as an old release wrote it: the name alone, in capitals.
-        std::string line =
-            i % 5 == 0 ? "\"" + ToUpperAscii(name) + "\"" : RecordLine(Record(name));
+        std::string line = i % 5 == 0 ? "\"" + ToUpperAscii(name) + "\"" : RecordLine(Record(name));
         if (line.ends_with("\r\n")) {
             line.resize(line.size() - 2);
         }

@@ -24,7 +24,8 @@ struct SoftwareSetup {
                                    data.Output() / "software.xml");
     }
     SoftwareFilePreparation Prepare(std::string_view machine, std::string_view lists) {
-        return PrepareSoftwareFile(data, {folder / "soft"}, machine, lists, [this] { ++announced; });
+        return PrepareSoftwareFile(data, {folder / "soft"}, machine, lists,
+                                   [this] { ++announced; });
     }
 };
 
