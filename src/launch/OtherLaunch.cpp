@@ -140,6 +140,14 @@ std::string OtherLaunchTail(std::string_view softwareArgs, std::string_view othe
     return tail;
 }
 
+std::optional<std::string> ComposeOtherCommandLine(const Preferences& preferences,
+                                                   const DataLayout& data, std::string_view machine,
+                                                   std::string_view softwareArgs,
+                                                   std::string_view otherCommands) {
+    return ComposeLaunchCommandLine(preferences, data, machine,
+                                    OtherLaunchTail(softwareArgs, otherCommands));
+}
+
 OtherLaunchPlan PrepareOtherLaunch(const AppContext& context, const MameIniBase& base,
                                    std::string_view softwareArgs,
                                    const std::filesystem::path& currentProfile, bool preview) {
@@ -161,8 +169,8 @@ OtherLaunchPlan PrepareOtherLaunch(const AppContext& context, const MameIniBase&
         return plan;
     }
     plan.strayIniWarning = StrayIniWarning(preferences.searchPaths.ini);
-    const auto line = ComposeLaunchCommandLine(preferences, context.data, base.machine,
-                                               OtherLaunchTail(softwareArgs, plan.otherCommands));
+    const auto line = ComposeOtherCommandLine(preferences, context.data, base.machine, softwareArgs,
+                                              plan.otherCommands);
     if (!line) {
         plan.message =
             RoutineError("Error in PlayOther",

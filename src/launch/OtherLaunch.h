@@ -58,6 +58,14 @@ std::optional<std::string> EditedSoftwareArgs(const std::optional<std::string>& 
 /// profile's "Other Commands" after one blank.
 std::string OtherLaunchTail(std::string_view softwareArgs, std::string_view otherCommands);
 
+/// The shell line of a start: the emulator, the Ini folder, the machine, the tail above and
+/// the two captures; lower-cased but for the paths, double blanks folded once. Nothing when
+/// `machine` is no short name.
+std::optional<std::string> ComposeOtherCommandLine(const Preferences& preferences,
+                                                   const DataLayout& data, std::string_view machine,
+                                                   std::string_view softwareArgs,
+                                                   std::string_view otherCommands);
+
 enum class OtherLaunchVerdict {
     Failed,    // show `message`, set FatalErrorFlag and stop
     Previewed, // mame.ini holds what the machine would get; nothing more to do

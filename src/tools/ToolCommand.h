@@ -21,5 +21,6 @@ int ToolUsageError(const ToolCommand& command);
 std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
+std::vector<ToolCommand> OtherLaunchCommands();
 
 } // namespace coinlight

@@ -8,7 +8,7 @@ namespace {
 
 std::vector<ToolCommand> AllCommands() {
     std::vector<ToolCommand> commands;
-    for (auto group : {IniCommands, CatalogueCommands, SettingsCommands}) {
+    for (auto group : {IniCommands, CatalogueCommands, SettingsCommands, OtherLaunchCommands}) {
         for (const auto& command : group()) {
             commands.push_back(command);
         }
