@@ -5,8 +5,8 @@
 #include <string>
 
 #include "core/AppContext.h"
-#include "core/UserMessage.h"
 #include "settings/StartBoxes.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 
