@@ -1,10 +1,8 @@
 #include "Favorites.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 #include "RecordScanner.h"
-#include "ShortNameHash.h"
 #include "core/CommandLine.h"
 #include "core/TextCase.h"
 #include "core/TextFile.h"
@@ -41,29 +39,6 @@ bool ReplaceOrRemove(const std::filesystem::path& file, const std::vector<std::s
         return true;
     }
     return WriteTextLines(file, lines, &error);
-}
-
-/// The first catalogue line of each name asked for, names compared without case.
-using LinesByName =
-    std::unordered_map<std::string, std::string_view, ShortNameHash, std::equal_to<>>;
-
-void FindCatalogueLines(std::string_view catalogue, LinesByName& wanted) {
-    RecordScanner scanner(catalogue);
-    std::string_view line;
-    RecordSpans spans;
-    bool wellFormed = false;
-    std::string key;
-    while (scanner.Next(line, spans, wellFormed)) {
-        if (!wellFormed) {
-            continue;
-        }
-        key.assign(spans.Field(line, ColName));
-        std::transform(key.begin(), key.end(), key.begin(), LowerAscii);
-        const auto found = wanted.find(std::string_view(key));
-        if (found != wanted.end() && found->second.data() == nullptr) {
-            found->second = line;
-        }
-    }
 }
 
 std::string WordOfChangesFile(std::string_view fileName) {
@@ -142,62 +117,6 @@ FavoritesMenuState FavoritesMenuOf(std::string_view view, bool favoriteArcade, b
     }
     const bool showingFavorites = view == kOtherMachines ? favoriteOther : favoriteArcade;
     return {!showingFavorites, showingFavorites};
-}
-
-PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
-                            const std::filesystem::path& infoFile,
-                            const std::filesystem::path& changesFile, std::string_view word) {
-    PurgeOutcome outcome;
-    if (!std::filesystem::exists(favoritesFile)) {
-        return outcome;
-    }
-    std::vector<std::string> names;
-    LinesByName wanted;
-    for (const auto& line : FavoriteLines(favoritesFile)) {
-        names.push_back(FavoriteShortName(SplitFavoriteLine(line)));
-        wanted.emplace(ToLowerAscii(names.back()), std::string_view());
-    }
-    const std::string catalogue = ReadFileBytes(infoFile).value_or(std::string());
-    FindCatalogueLines(catalogue, wanted);
-    std::vector<std::string> kept;
-    std::vector<std::string> removed;
-    for (const auto& name : names) {
-        const std::string_view line = wanted.find(ToLowerAscii(name))->second;
-        if (line.data() != nullptr) {
-            kept.emplace_back(line);
-        } else {
-            removed.push_back(name);
-        }
-    }
-    if (!removed.empty()) {
-        std::vector<std::string> changes =
-            ReadTextLines(changesFile).value_or(std::vector<std::string>{});
-        changes.insert(changes.end(), removed.begin(), removed.end());
-        if (!WriteTextLines(changesFile, changes, &outcome.error)) {
-            return outcome;
-        }
-        outcome.removedAny = true;
-        outcome.messages.push_back(
-            {"Verify Favorites",
-             "At least one machine was removed from your favorites list because there were "
-             "changes to it in this version of MAME.  You can see a list of the machines removed "
-             "by selecting Favorite " +
-                 std::string(word) + " Machine Changes from the Reports pull-down menu.",
-             true});
-    }
-    if (!ReplaceOrRemove(favoritesFile, kept, outcome.error)) {
-        return outcome;
-    }
-    if (kept.empty()) {
-        outcome.nowEmpty = true;
-        outcome.messages.push_back(
-            {"Verify Favorites",
-             "Your favorite " + std::string(word) +
-                 " Machine list is now empty.  Coinlight will now load the full " +
-                 std::string(word) + " Machine list.",
-             false});
-    }
-    return outcome;
 }
 
 bool FavoritesNeedPurge(const std::filesystem::path& favoritesFile) {

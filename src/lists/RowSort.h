@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -9,34 +8,30 @@
 
 namespace coinlight {
 
-/// The first eight bytes of a text, lower-cased, as a number that orders as they do: most
-/// comparisons are settled by it without touching the texts.
+/// The first eight bytes of a text, lower-cased, as a number that orders as they do.
 std::uint64_t SortPrefix(std::string_view text);
+/// The order of two texts ignoring ASCII case, bytes compared unsigned: -1, 0 or 1.
 int CompareIgnoringCase(std::string_view a, std::string_view b);
 
-/// Orders row numbers by the text `textOf(row)` gives, ignoring case as the lists always
-/// have; rows of equal text keep their order, so a second sort refines the first.
+/// The positions of `texts` in the order of their texts ignoring case; equal texts keep the
+/// order they had, so a second sort refines the first.
+std::vector<std::uint32_t> SortedPositions(const std::vector<std::string_view>& texts,
+                                           bool descending);
+
+/// Orders row numbers by the text `textOf(row)` gives, as SortedPositions orders texts.
 template <class TextOf>
 void SortOrderByText(std::vector<std::uint32_t>& order, const TextOf& textOf, bool descending) {
-    struct Key {
-        std::uint64_t prefix;
-        std::uint32_t row;
-    };
-    std::vector<Key> keys;
-    keys.reserve(order.size());
+    std::vector<std::string_view> texts;
+    texts.reserve(order.size());
     for (const std::uint32_t row : order) {
-        keys.push_back({SortPrefix(textOf(row)), row});
+        texts.push_back(textOf(row));
     }
-    std::stable_sort(keys.begin(), keys.end(), [&](const Key& left, const Key& right) {
-        if (left.prefix != right.prefix) {
-            return descending ? left.prefix > right.prefix : left.prefix < right.prefix;
-        }
-        const int compared = CompareIgnoringCase(textOf(left.row), textOf(right.row));
-        return descending ? compared > 0 : compared < 0;
-    });
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        order[i] = keys[i].row;
+    const std::vector<std::uint32_t> positions = SortedPositions(texts, descending);
+    std::vector<std::uint32_t> sorted(order.size());
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        sorted[i] = order[positions[i]];
     }
+    order.swap(sorted);
 }
 
 /// A machine list's rows by one column's text.

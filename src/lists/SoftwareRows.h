@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "catalogue/MachineField.h"
+#include "core/BigMemory.h"
 #include "core/UserMessage.h"
 
 namespace coinlight {
@@ -17,22 +18,23 @@ namespace coinlight {
 /// Which titles the software list shows: `optSoftware(0)` or `optSoftware(1)`.
 enum class SoftwareKind { Available, Unavailable };
 
-/// The rows of a machine's software file, pointing into the file's text, which they keep:
-/// 20,000 titles cost no allocation of their own.
+/// The rows of a machine's software file, pointing into the file's text, which they keep
+/// (mapped, not copied): 20,000 titles cost no allocation of their own.
 class SoftwareRows {
 public:
     static constexpr std::size_t kFields = kSoftwareFieldCount;
 
-    explicit SoftwareRows(std::string text = {}) : m_text(std::move(text)) {}
+    SoftwareRows() = default;
+    explicit SoftwareRows(FileText file) : m_file(std::move(file)) {}
 
     std::size_t size() const { return m_rows.size(); }
-    std::string_view Text() const { return m_text; }
+    std::string_view Text() const { return m_file.View(); }
     std::string_view Field(std::size_t row, SoftwareField field) const {
         return Field(row, static_cast<std::size_t>(field));
     }
     std::string_view Field(std::size_t row, std::size_t field) const {
         const Spans& spans = m_rows[row];
-        return std::string_view(m_text).substr(spans.begin[field], spans.size[field]);
+        return Text().substr(spans.begin[field], spans.size[field]);
     }
 
     /// Adds a row of fields that lie inside the text.
@@ -44,7 +46,7 @@ private:
         std::array<std::uint32_t, kFields> begin;
         std::array<std::uint32_t, kFields> size;
     };
-    std::string m_text;
+    FileText m_file;
     std::vector<Spans> m_rows;
 };
 
