@@ -8,15 +8,13 @@
 #include "FileCopy.h"
 #include "core/ProfileFile.h"
 #include "core/TextFile.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 
 namespace {
 
 constexpr const char* kRoutine = "CreateSupportFiles";
-constexpr const char* kProtectedFolderAdvice =
-    "\n\nThis may mean Coinlight is installed in a Windows protected folder (such as Program "
-    "Files).\nCoinlight needs to be installed in an unprotected folder.";
 constexpr const char* kUnlistedHeader =
     "The machines below were not found in lists.txt and have not been added to any lists.  "
     "You can add them to lists.txt or wait for an updated lists.txt to be available.  This "
@@ -130,10 +128,10 @@ CatalogueCounts BuildCatalogue(const CatalogueSources& sources, DeviceRomSource&
     return builder.Counts();
 }
 
-CatalogueOutcome FailedOutcome(const RunTimeError& error) {
+CatalogueOutcome FailedOutcome(const RunTimeError& error, const std::filesystem::path& output) {
     std::string text = HandlerMessage(kRoutine, error);
     if (error.number == kErrorFileNotFound) {
-        text += kProtectedFolderAdvice;
+        text += "\n\n" + NoPermissionSentence(output);
     }
     return {{{std::move(text), true}}, true};
 }
@@ -169,9 +167,10 @@ SupportFilesResult CreateSupportFiles(const CatalogueSources& sources,
         progress.ShowArcadeCount(result.counts.arcade);
         progress.ClearStep();
     } catch (const std::bad_alloc&) {
-        result.outcome = FailedOutcome({kErrorOutOfMemory, kOutOfMemoryText, 0});
+        result.outcome =
+            FailedOutcome({kErrorOutOfMemory, kOutOfMemoryText, 0}, sources.outputFolder);
     } catch (const CatalogueAbort& abort) {
-        result.outcome = FailedOutcome(abort.error);
+        result.outcome = FailedOutcome(abort.error, sources.outputFolder);
     }
     return result;
 }

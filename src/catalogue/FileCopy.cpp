@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "core/AtomicFileWriter.h"
+
 namespace coinlight {
 
 std::optional<std::string> CopyFileReplacing(const std::filesystem::path& from,
                                              const std::filesystem::path& to) {
-    std::string pattern = to.string() + ".tmp-XXXXXX";
+    std::string pattern = TemporaryPatternFor(to);
     const int descriptor = ::mkstemp(pattern.data());
     if (descriptor < 0) {
         return "Cannot create a file beside " + to.string();

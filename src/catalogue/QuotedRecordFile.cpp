@@ -10,6 +10,14 @@
 
 namespace coinlight {
 
+void AppendWithoutQuotes(std::string& out, std::string_view field) {
+    for (auto quote = field.find('"'); quote != std::string_view::npos; quote = field.find('"')) {
+        out.append(field.substr(0, quote));
+        field.remove_prefix(quote + 1);
+    }
+    out.append(field);
+}
+
 void WriteMachineRecord(AtomicFileWriter& out, const MachineFields& fields) {
     std::string line;
     AppendQuotedRecord(line, fields.values);
@@ -38,6 +46,9 @@ namespace {
 /// Records are one line each in a sound file, so the line count is a cheap upper bound.
 std::size_t LineCount(std::string_view text) {
     std::size_t lines = 0;
+    if (text.empty()) {
+        return lines; // an empty view may have no data at all, which memchr must not see
+    }
     const char* at = text.data();
     const char* end = at + text.size();
     while ((at = static_cast<const char*>(

@@ -14,13 +14,18 @@ namespace coinlight {
 
 class AtomicFileWriter;
 
+/// Appends a field's text without its double quotes: the record format has no escape, so
+/// a quote inside a field (a category such as `Shoot "em up`) would make the file
+/// unreadable at every start.
+void AppendWithoutQuotes(std::string& out, std::string_view field);
+
 /// Appends one record: each field in double quotes, one comma between fields, CR LF at the
-/// end. There is no escape: the builders keep double quotes out of the fields.
+/// end. Double quotes inside a field are dropped.
 template <class Fields> void AppendQuotedRecord(std::string& out, const Fields& fields) {
     bool first = true;
     for (const auto& field : fields) {
         out.append(first ? "\"" : ",\"");
-        out.append(field);
+        AppendWithoutQuotes(out, field);
         out.push_back('"');
         first = false;
     }

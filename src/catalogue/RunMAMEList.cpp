@@ -4,6 +4,7 @@
 #include "FileCopy.h"
 #include "core/CommandLine.h"
 #include "core/CommandRunner.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 
@@ -13,10 +14,7 @@ constexpr const char* kListsMissing =
     "Cannot find lists.txt.  This file is needed to populate machines in the proper lists.  "
     "It is included with Coinlight.\nPut the file in the Coinlight support folder and try "
     "again.";
-constexpr const char* kNotCreated =
-    "The machine.xml was not created.  Coinlight will now close.\n\nThis may mean Coinlight "
-    "is installed in a Windows protected folder (such as Program Files).\nCoinlight needs to "
-    "be installed in an unprotected folder.";
+constexpr const char* kNotCreated = "The machine.xml was not created.  Coinlight will now close.";
 
 } // namespace
 
@@ -49,7 +47,8 @@ CatalogueOutcome RunMAMEList(std::string_view option, const MameProgram& mame,
     }
     // The shell makes the file before MAME writes to it: an empty one counts as made.
     if (!std::filesystem::exists(target, error)) {
-        outcome.messages.push_back({kNotCreated, true});
+        outcome.messages.push_back(
+            {std::string(kNotCreated) + "\n\n" + NoPermissionSentence(data.Output()), true});
         outcome.fatalError = true;
     }
     return outcome;

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <utility>
 
+#include "AtomicFileWriter.h"
 #include "TextFile.h"
 
 namespace coinlight {
@@ -59,9 +60,13 @@ std::optional<std::string> MakeFolderTree(const DataLayout& layout) {
     for (const auto& folder : folders) {
         std::error_code error;
         if (std::filesystem::is_directory(folder, error)) {
+            // A write killed half-way (a crash, a power cut) leaves its temporary file.
+            RemoveOrphanedTemporaries(folder);
             continue;
         }
-        std::filesystem::create_directory(folder, error);
+        // The data folder's own parents (~/.local/share on a new account, or wherever
+        // XDG_DATA_HOME points) may not exist yet.
+        std::filesystem::create_directories(folder, error);
         if (error) {
             return "Cannot make the folder " + folder.string() + ": " + error.message();
         }

@@ -27,7 +27,8 @@ std::filesystem::path ResolveDataFolder(const std::filesystem::path& appFolder, 
 bool IsPortable(const std::filesystem::path& appFolder);
 
 /// Makes the data folder and its settings, output, output/soft and temp folders, in that
-/// order. On failure, the reason.
+/// order, and clears those that exist of the temporary files of writes that never finished
+/// (a process killed half-way). On failure, the reason.
 std::optional<std::string> MakeFolderTree(const DataLayout& layout);
 
 /// Renames the files of earlier releases to today's names. A rename onto an existing file

@@ -1,6 +1,8 @@
 #include "AtomicFileWriter.h"
 
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,11 +22,84 @@ mode_t NewFileMode() {
     return mode;
 }
 
+/// Temporary files are named `<file>.tmp-<process id>-XXXXXX`, so that a later run can
+/// tell the leftovers of a killed process from the files of a live one.
+constexpr std::string_view kTemporaryMark = ".tmp-";
+
+/// The file a chain of symbolic links ends at; the path itself when it is no link. A
+/// dangling link gives the file it would name, so that the write creates it.
+std::filesystem::path ResolveLinks(std::filesystem::path path) {
+    for (int hops = 0; hops < 40; ++hops) {
+        std::error_code error;
+        if (!std::filesystem::is_symlink(path, error)) {
+            break;
+        }
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error) {
+            break;
+        }
+        path = target.is_absolute() ? target : path.parent_path() / target;
+    }
+    return path;
+}
+
+/// The rights of the file being replaced, or those of a new file.
+mode_t ModeFor(const std::filesystem::path& destination) {
+    struct stat info {};
+    if (::stat(destination.c_str(), &info) == 0 && S_ISREG(info.st_mode)) {
+        return info.st_mode & 07777;
+    }
+    return NewFileMode();
+}
+
+/// The process that made a temporary file, from its name; 0 for names of another form
+/// (an older version wrote `<file>.tmp-XXXXXX`, which only a finished process can own).
+pid_t OwnerOf(std::string_view name) {
+    const auto mark = name.rfind(kTemporaryMark);
+    if (mark == std::string_view::npos) {
+        return -1;
+    }
+    const std::string_view rest = name.substr(mark + kTemporaryMark.size());
+    const auto dash = rest.find('-');
+    if (dash == std::string_view::npos) {
+        return rest.size() == 6 ? 0 : -1;
+    }
+    pid_t owner = 0;
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + dash, owner);
+    if (error != std::errc() || end != rest.data() + dash || rest.size() - dash - 1 != 6) {
+        return -1;
+    }
+    return owner;
+}
+
+bool ProcessIsGone(pid_t process) {
+    return process == 0 || (::kill(process, 0) != 0 && errno == ESRCH);
+}
+
 } // namespace
 
+std::string TemporaryPatternFor(const std::filesystem::path& destination) {
+    return destination.string() + std::string(kTemporaryMark) + std::to_string(::getpid()) +
+           "-XXXXXX";
+}
+
+void RemoveOrphanedTemporaries(const std::filesystem::path& folder) {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const std::string name = entry.path().filename().string();
+        if (name.find(kTemporaryMark) == std::string::npos || !entry.is_regular_file(error)) {
+            continue;
+        }
+        const pid_t owner = OwnerOf(name);
+        if (owner >= 0 && owner != ::getpid() && ProcessIsGone(owner)) {
+            std::filesystem::remove(entry.path(), error);
+        }
+    }
+}
+
 AtomicFileWriter::AtomicFileWriter(std::filesystem::path destination)
-    : m_destination(std::move(destination)) {
-    std::string pattern = m_destination.string() + ".tmp-XXXXXX";
+    : m_destination(ResolveLinks(std::move(destination))) {
+    std::string pattern = TemporaryPatternFor(m_destination);
     const int descriptor = ::mkstemp(pattern.data());
     if (descriptor < 0) {
         Fail("Cannot create a file in " + m_destination.parent_path().string());
@@ -83,8 +158,8 @@ bool AtomicFileWriter::Commit() {
         Discard();
         return false;
     }
-    // mkstemp gives 0600; a file of ours should have the usual rights.
-    ::fchmod(::fileno(m_file), NewFileMode());
+    // mkstemp gives 0600: the new file takes the rights of the one it replaces.
+    ::fchmod(::fileno(m_file), ModeFor(m_destination));
     const bool flushed = std::fflush(m_file) == 0;
     const bool closed = std::fclose(m_file) == 0;
     m_file = nullptr;

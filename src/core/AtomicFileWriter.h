@@ -10,6 +10,8 @@ namespace coinlight {
 /// Writes a file beside its destination and renames it into place on Commit, so that a
 /// crash or a full disk leaves either the old file or the new one, never half of one.
 /// Without Commit the temporary file is removed and the destination is left untouched.
+/// A destination that is a symbolic link is written through to the file it names, and a
+/// file that exists keeps its access rights.
 class AtomicFileWriter {
 public:
     explicit AtomicFileWriter(std::filesystem::path destination);
@@ -37,5 +39,13 @@ private:
     std::FILE* m_file = nullptr;
     std::string m_error;
 };
+
+/// The mkstemp pattern of a temporary file beside `destination`: every temporary file of
+/// Coinlight names the process that made it, so that leftovers can be told apart.
+std::string TemporaryPatternFor(const std::filesystem::path& destination);
+
+/// Removes the temporary files that writers of processes now gone left in `folder` (a
+/// process killed between creating and renaming one). Those of running processes stay.
+void RemoveOrphanedTemporaries(const std::filesystem::path& folder);
 
 } // namespace coinlight

@@ -67,34 +67,9 @@ private:
     std::size_t m_capacity = 0;
 };
 
-/// A whole file in a BigBuffer; nothing when it cannot be read.
+/// A whole file in a BigBuffer; nothing when it cannot be read. The bytes are a copy of our
+/// own rather than a mapping: another program may truncate or rewrite a catalogue file at
+/// any time, and a mapped page that vanishes kills the process that touches it.
 std::optional<BigBuffer> ReadFileBig(const std::filesystem::path& file);
-
-/// A whole file, read-only. Mapped where possible: the bytes are the page cache's own, so
-/// nothing is copied or cleared. Coinlight replaces its files by renaming a new one over
-/// them, which leaves a mapped old file whole. Falls back to reading for what cannot be
-/// mapped.
-class FileText {
-public:
-    FileText() = default;
-    ~FileText();
-    FileText(FileText&& other) noexcept;
-    FileText& operator=(FileText&& other) noexcept;
-    FileText(const FileText&) = delete;
-    FileText& operator=(const FileText&) = delete;
-
-    /// Nothing when the file cannot be opened or read.
-    static std::optional<FileText> Open(const std::filesystem::path& file);
-
-    std::string_view View() const { return {m_data, m_size}; }
-
-private:
-    void Release();
-
-    const char* m_data = nullptr;
-    std::size_t m_size = 0;
-    bool m_mapped = false;
-    BigBuffer m_read; // when the file could not be mapped
-};
 
 } // namespace coinlight

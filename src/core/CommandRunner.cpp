@@ -84,11 +84,19 @@ int ExitStatusOf(int status) {
 
 } // namespace
 
+std::string MameFolderMessage(const std::filesystem::path& folder) {
+    if (folder.empty()) {
+        return "No MAME folder is set.  Choose your MAME executable in Options and try again.";
+    }
+    return "The MAME folder " + folder.string() +
+           " cannot be reached.  Check the MAME path in Options and try again.";
+}
+
 ExecResult ExecCmd(const std::string& commandLine, const std::filesystem::path& workingFolder,
                    const ExecPump& pump, std::chrono::milliseconds interval) {
     std::error_code error;
     if (workingFolder.empty() || !std::filesystem::is_directory(workingFolder, error)) {
-        return {ExecOutcome::FolderUnavailable, -1, kMameDriveMessage};
+        return {ExecOutcome::FolderUnavailable, -1, MameFolderMessage(workingFolder)};
     }
 
     posix_spawn_file_actions_t actions;
@@ -123,7 +131,7 @@ ExecResult ExecCmd(const std::string& commandLine, const std::filesystem::path& 
         if (spawned == ENOENT || spawned == ENOTDIR) {
             // The folder vanished between the test and the start.
             if (!std::filesystem::is_directory(workingFolder, error)) {
-                return {ExecOutcome::FolderUnavailable, -1, kMameDriveMessage};
+                return {ExecOutcome::FolderUnavailable, -1, MameFolderMessage(workingFolder)};
             }
         }
         return {ExecOutcome::StartFailed, -1,

@@ -7,8 +7,8 @@
 
 namespace coinlight {
 
-inline constexpr const char* kMameDriveMessage =
-    "There is a problem communicating with the drive MAME is on.  Try again.";
+/// What the user is told when MAME's folder cannot be reached: the folder, and what to do.
+std::string MameFolderMessage(const std::filesystem::path& folder);
 
 enum class ExecOutcome {
     Finished,          // the child ran to its end

@@ -9,6 +9,7 @@ struct ControlFlags {
     bool closeRequested = false;    // the user chose not to go on: nothing is saved at exit
     bool listsRegenerating = false; // the catalogue is being rebuilt
     bool loadingSettings = false;   // a screen is filling its controls: change handlers rest
+    bool emulatorRunning = false;   // MAME has the screen: the window stays hidden till it ends
 };
 
 /// What the start found out about the machine and its files.

@@ -10,4 +10,9 @@ UserMessage RoutineError(std::string_view heading, std::string_view description,
     return message;
 }
 
+std::string NoPermissionSentence(const std::filesystem::path& folder) {
+    return "This may mean you do not have permission to read or write files in " + folder.string() +
+           ".";
+}
+
 } // namespace coinlight

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -24,5 +25,9 @@ struct UserMessage {
 /// The common error box of a routine that failed: `heading` is its first words, such as
 /// "Error In BuildIni", `line` the number of the step that failed.
 UserMessage RoutineError(std::string_view heading, std::string_view description, int line);
+
+/// The advice that follows a failure to read or write the files of `folder`: on Linux the
+/// usual cause is a folder where the user may not write.
+std::string NoPermissionSentence(const std::filesystem::path& folder);
 
 } // namespace coinlight

@@ -18,6 +18,21 @@ std::string FailureMessage(const char* routine, const std::string& description,
            "\n\n" + kVersionAdvice;
 }
 
+/// The short name of a line that is no whole record, for the message: the text of its
+/// name field as far as the line has one, else nothing.
+std::string_view ShortNameOfDamagedLine(std::string_view line) {
+    std::size_t at = line.starts_with('"') ? 1 : 0;
+    for (int field = 0; field < ColName; ++field) {
+        const auto delimiter = line.find("\",\"", at);
+        if (delimiter == std::string_view::npos) {
+            return {};
+        }
+        at = delimiter + 3;
+    }
+    const std::string_view rest = line.substr(at);
+    return rest.substr(0, rest.find('"'));
+}
+
 bool NeedsNoFile(const std::array<std::string_view, kRecordFieldCount>& fields) {
     return fields[ColRomRequired] == "No" && fields[ColDeviceRomsRequired] == "No" &&
            fields[ColChdRequired] == "No";
@@ -76,7 +91,7 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
     LoadedList list;
     list.machines = std::make_shared<MachineRows>();
     // The whole file stays in memory and the rows point into it: one read, no copy a row.
-    auto bytes = FileText::Open(file);
+    auto bytes = ReadFileBig(file);
     if (!bytes) {
         list.error = FailureMessage(routine, "File not found: " + file.string(), "", 4);
         return list;
@@ -103,8 +118,8 @@ LoadedList LoadList(const char* routine, const std::filesystem::path& file,
             continue;
         }
         if (!wellFormed) {
-            list.error =
-                FailureMessage(routine, "Input past end of file", line.substr(0, 60), lineNumber);
+            list.error = FailureMessage(routine, "Input past end of file",
+                                        ShortNameOfDamagedLine(line), lineNumber);
             return list;
         }
         for (int column = 0; column < kRecordFieldCount; ++column) {

@@ -10,16 +10,22 @@
 
 namespace coinlight {
 
-/// Where the fields of one catalogue line lie: the text between each pair of quotes. Lines
-/// are far shorter than 64 KB (MAME's longest is some 500 bytes); a longer one is refused.
+/// Where the fields of one catalogue line lie: the text between each pair of quotes. MAME's
+/// longest line is some 500 bytes, but the reader takes whatever the writer can write: a
+/// description of any length must never make the catalogue unloadable.
 struct RecordSpans {
-    static constexpr std::size_t kLongestLine = 0xFFFF;
-    std::array<std::uint16_t, kRecordFieldCount> begin{};
-    std::array<std::uint16_t, kRecordFieldCount> end{};
+    static constexpr std::size_t kLongestLine = 0xFFFFFFFF;
+    std::array<std::uint32_t, kRecordFieldCount> begin{}; // the first byte of each field
+    std::uint32_t lineLength = 0;
 
+    /// Fields are joined by `","` and the line ends in a quote, so each field ends three
+    /// bytes before the next begins: its end need not be kept.
+    std::size_t End(std::size_t column) const {
+        return column + 1 < kRecordFieldCount ? begin[column + 1] - 3 : lineLength - 1;
+    }
     std::string_view Field(std::string_view line, int column) const {
         const auto c = static_cast<std::size_t>(column);
-        return line.substr(begin[c], end[c] - begin[c]);
+        return line.substr(begin[c], End(c) - begin[c]);
     }
 };
 
@@ -48,7 +54,7 @@ public:
             return {};
         }
         const auto c = static_cast<std::size_t>(column);
-        return std::string_view(m_line + m_spans.begin[c], m_spans.end[c] - m_spans.begin[c]);
+        return std::string_view(m_line + m_spans.begin[c], m_spans.End(c) - m_spans.begin[c]);
     }
     std::string_view ShortName() const { return Field(ColName); }
     bool Available() const { return m_available; }

@@ -13,7 +13,7 @@ namespace coinlight {
 /// The rows read from one catalogue file, with the texts they point into: the file's bytes
 /// and the players list. Lists share it; it lives as long as one of them shows it.
 struct MachineRows {
-    FileText text;
+    BigBuffer text;
     std::shared_ptr<const ProfileDocument> players;
     std::vector<MachineRow, BigAllocator<MachineRow>> rows;
 };

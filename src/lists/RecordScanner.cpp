@@ -150,15 +150,21 @@ bool BuildSpans(std::string_view line, std::size_t lineStart, const LineScan& sc
         line.size() > RecordSpans::kLongestLine || line.front() != '"' || line.back() != '"') {
         return false;
     }
+    // Delimiters that share a quote (`","","` read from the middle) would give a field that
+    // ends before it begins.
     const auto start = static_cast<std::uint32_t>(lineStart);
-    spans.begin[0] = 1;
+    std::uint32_t fieldBegin = 1;
+    spans.begin[0] = fieldBegin;
     for (std::size_t field = 0; field < kDelimiters; ++field) {
         const std::uint32_t delimiter = delimiters[field] - start;
-        spans.end[field] = static_cast<std::uint16_t>(delimiter);
-        spans.begin[field + 1] = static_cast<std::uint16_t>(delimiter + 3);
+        if (delimiter < fieldBegin) {
+            return false;
+        }
+        fieldBegin = delimiter + 3;
+        spans.begin[field + 1] = fieldBegin;
     }
-    spans.end[kDelimiters] = static_cast<std::uint16_t>(line.size() - 1);
-    return true;
+    spans.lineLength = static_cast<std::uint32_t>(line.size());
+    return fieldBegin <= line.size() - 1;
 }
 
 } // namespace

@@ -21,6 +21,13 @@ void MachineListModel::Reset(std::shared_ptr<const MachineRows> rows,
     m_rows = std::move(rows);
     m_order = std::move(order);
     m_rowOfName.clear();
+    if (m_sorted && m_rows) {
+        // New rows come in file order; a list that was sorted stays sorted the same way.
+        SortRows(m_order, *m_rows, 0, false);
+        if (m_sortKey != 0 || m_descending) {
+            SortRows(m_order, *m_rows, m_sortKey, m_descending);
+        }
+    }
     endResetModel();
 }
 
@@ -49,6 +56,7 @@ int MachineListModel::RowOfShortName(std::string_view shortName) const {
 void MachineListModel::Sort(int column, bool descending) {
     m_sortKey = column;
     m_descending = descending;
+    m_sorted = true;
     if (!m_rows || column < 0 || column >= MachineRow::kColumns) {
         return;
     }

@@ -22,8 +22,8 @@ public:
     void SetColumns(std::vector<ColumnSpec> columns);
     const std::vector<ColumnSpec>& Columns() const { return m_columns; }
 
-    /// Shows `order` (indices into `rows`) in that order; the sort state is kept for the
-    /// next Sort call.
+    /// Shows `order` (indices into `rows`): in that order until the list is first sorted,
+    /// then sorted as the list last was.
     void Reset(std::shared_ptr<const MachineRows> rows, std::vector<std::uint32_t> order);
     void Clear();
 
@@ -50,6 +50,7 @@ private:
     mutable std::unordered_map<std::string_view, int> m_rowOfName; // built on first lookup
     int m_sortKey = 0;
     bool m_descending = false;
+    bool m_sorted = false;
 };
 
 } // namespace coinlight

@@ -1,6 +1,8 @@
 #include "MachineListView.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 namespace coinlight {
 
@@ -27,8 +29,11 @@ MachineListView::MachineListView(const char* name, bool marksUnavailable, QWidge
                     emit RowSelected(current.row());
                 }
             });
-    connect(this, &QTreeView::activated, this,
-            [this](const QModelIndex& index) { emit RowActivated(index.row()); });
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (index.isValid()) {
+            emit RowActivated(index.row());
+        }
+    });
 }
 
 void MachineListView::SetColumns(std::vector<ColumnSpec> columns, const std::set<int>& hidden) {
@@ -64,6 +69,40 @@ void MachineListView::SelectRow(int row) {
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                  QItemSelectionModel::Rows);
     scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+void MachineListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        if (SelectedRow() >= 0) {
+            emit RowActivated(SelectedRow());
+        }
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void MachineListView::keyboardSearch(const QString& search) {
+    if (search.isEmpty() || m_model.rowCount() == 0) {
+        return;
+    }
+    const bool continues =
+        m_sinceTyped.isValid() && m_sinceTyped.elapsed() < QApplication::keyboardInputInterval();
+    m_typed = continues ? m_typed + search : search;
+    m_sinceTyped.restart();
+    // A first letter moves on from the selected row; more letters refine from it.
+    const int rows = m_model.rowCount();
+    const int from = std::max(0, SelectedRow()) + (m_typed.size() == 1 ? 1 : 0);
+    for (int step = 0; step < rows; ++step) {
+        const int row = (from + step) % rows;
+        const std::string_view text = m_model.Row(row)->Field(0);
+        const QString head = QString::fromUtf8(
+            text.data(), static_cast<qsizetype>(std::min<std::size_t>(text.size(), 256)));
+        if (head.startsWith(m_typed, Qt::CaseInsensitive)) {
+            SelectRow(row);
+            return;
+        }
+    }
 }
 
 } // namespace coinlight

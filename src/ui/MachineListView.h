@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include <QElapsedTimer>
 #include <QTreeView>
 
 #include "MachineListModel.h"
@@ -31,13 +32,24 @@ public:
     void SelectRow(int row);
     const MachineRow* SelectedMachine() const { return m_model.Row(SelectedRow()); }
 
+    /// Type-ahead: the next row whose first column (the description) starts with what was
+    /// typed, whatever column the list is sorted by.
+    void keyboardSearch(const QString& search) override;
+
 signals:
     void ColumnClicked(int column);
     void RowSelected(int row);
+    /// A double click or Enter on a row. Enter stops here: the window around the list never
+    /// sees it, so one key press starts one action.
     void RowActivated(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     MachineListModel m_model;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
 };
 
 } // namespace coinlight

@@ -105,7 +105,6 @@ QWidget* BuildListFrame(MainControls& c) {
     c.picSoftware = new SoftwarePanel;
     c.lvSoftware = c.picSoftware->List();
     c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
-    c.picSpacer = Named(new QWidget, QStringLiteral("picSpacer"));
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
     other->addWidget(c.picSoftware);
@@ -197,6 +196,10 @@ QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
     c.chkRecord = Named(new QCheckBox(QStringLiteral("Record")), QStringLiteral("chkRecord"));
     c.chkPlayback = Named(new QCheckBox(QStringLiteral("Playback")), QStringLiteral("chkPlayback"));
     for (QCheckBox* box : {c.chkAutoSave, c.chkAutoRun, c.chkRecord, c.chkPlayback}) {
+        // The boxes come and go with the selection; the row must not change height with them.
+        QSizePolicy policy = box->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        box->setSizePolicy(policy);
         row->addWidget(box);
     }
     row->addStretch();

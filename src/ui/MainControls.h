@@ -77,7 +77,6 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    QWidget* picSpacer = nullptr;
     SoftwarePanel* picSoftware = nullptr; // beside lvOther
     SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;

@@ -75,7 +75,13 @@ void frmMain::ConnectControls() {
     for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvOther}) {
         connect(list, &MachineListView::ColumnClicked, this,
                 [this, list](int column) { SortColumn(*list, column); });
-        connect(list, &MachineListView::RowSelected, this, [this, list] { ShowDetails(*list); });
+        connect(list, &MachineListView::RowSelected, this, [this, list] {
+            // The saved key follows the selection, so that a refresh finds the machine again.
+            if (const MachineRow* row = list->SelectedMachine()) {
+                SavedStateOf(*list).key = "k." + std::string(row->ShortName());
+            }
+            ShowDetails(*list);
+        });
     }
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
@@ -151,6 +157,9 @@ void frmMain::UnloadCover() {
 }
 
 void frmMain::RaiseFromAnotherStart() {
+    if (m_context.flags.emulatorRunning) {
+        return; // the window comes back by itself when MAME ends
+    }
     setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
     show();
     raise();
@@ -236,6 +245,13 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
     }
 }
 
+bool frmMain::HasCommand(int link) const {
+    // The settings screens, the audit and the information panel are not built yet: their
+    // buttons and links stay out of sight until they are.
+    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkAudit &&
+           link != LinkInfo;
+}
+
 void frmMain::SetStartCommands(bool enabled) {
     m_controls.cmdStart->setEnabled(enabled);
     m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
@@ -253,8 +269,9 @@ void frmMain::SetLinksOrButtons() {
                                               {c.cmdInfo, LinkInfo},
                                               {c.cmdGameList, LinkReturnList1}};
     for (const auto& [button, link] : twins) {
-        button->setVisible(!links);
-        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
+        const bool shown = HasCommand(link);
+        button->setVisible(!links && shown);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links && shown);
     }
 }
 
@@ -280,6 +297,8 @@ void frmMain::UnloadAllForms() {
 
 void frmMain::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
+    // The frame exists only once the window is up.
+    QMetaObject::invokeMethod(this, &frmMain::KeepOnScreen, Qt::QueuedConnection);
     // The maker's own machine shows a tool of his; nobody else's does.
     const auto computer =
         ProcessEnvironment()("COMPUTERNAME").value_or(QSysInfo::machineHostName().toStdString());

@@ -98,6 +98,8 @@ protected:
 private:
     // The load, step by step
     void CentreOnScreen();
+    /// Brings a window that does not fit (a changed scale or screen) back onto the screen.
+    void KeepOnScreen();
     bool PrepareFolders();
     void InstallMissingSupportFiles();
     bool LoadOptions();
@@ -105,6 +107,7 @@ private:
     bool FirstRunBranch();
     void RecoverFromBadOptions();
     bool ShowOptionsAtFirstRun();
+    bool EnsureMameExecutable();
     bool CheckSupportChanges();
     bool RebuildCatalogue(bool newMame);
     bool RebuildFromLists();
@@ -139,6 +142,8 @@ private:
     bool ApplyOtherList(LoadedList loaded);
     void ReportLoadCount(bool arcade, int rows);
     void ShowListInView(MachineListView& list, const ListState& saved);
+    /// Selects the machine of the list's saved key, or the first row.
+    void SelectSavedMachine(MachineListView& list);
     MachineListView* ListOfView();
     ListState& SavedStateOf(const MachineListView& list);
     void ShowDetails(MachineListView& list);
@@ -152,11 +157,10 @@ private:
     void SetStartBoxes(const StartBoxes& boxes);
     void StartBoxClicked(StartBox box, bool ticked);
     void RebuildPathArrays();
+    /// Hides the window, runs MAME and waits; false when the failure ends the program.
+    bool RunEmulator(const std::string& commandLine);
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
-    /// Runs the command line held in CommandString with the window hidden, then notes it in
-    /// lastrun.txt; false when the run was fatal and the window is closing.
-    bool RunEmulator(const char* routine);
 
     // The software panel's steps
     void ConnectSoftwareControls();
@@ -186,6 +190,8 @@ private:
     void TickView(QAction* entry);
     void UpdateCommandSet();
     void SetStartCommands(bool enabled);
+    /// Whether the command behind a button and its link exists in this build.
+    bool HasCommand(int link) const;
     void SetFamilyCheckBoxes(bool visible);
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);

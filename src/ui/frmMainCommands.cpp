@@ -134,6 +134,9 @@ void frmMain::CreateMAMEIni() {
 }
 
 void frmMain::PlayArcade() {
+    if (m_context.flags.emulatorRunning) {
+        return;
+    }
     MachineListView* list = ListOfView();
     list->setFocus();
     m_commandString.clear();
@@ -183,9 +186,13 @@ void frmMain::PlayArcade() {
         ShowMessage(m_prompter, *plan.strayIniWarning);
     }
     m_commandString = plan.commandLine;
-    if (!RunEmulator("PlayArcade")) {
+    if (!RunEmulator(m_commandString)) {
         return;
     }
+    if (const auto failure = WriteLastRun(m_context.data, m_commandString)) {
+        ShowMessage(m_prompter, *failure);
+    }
+    show();
     SetStartBoxes(AfterArcadeStart(CurrentStartBoxes()));
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {
@@ -200,13 +207,16 @@ void frmMain::PlayArcade() {
     }
 }
 
-bool frmMain::RunEmulator(const char* routine) {
-    // The emulator has the screen to itself until it ends.
+bool frmMain::RunEmulator(const std::string& commandLine) {
+    // The emulator has the screen to itself until it ends; a second start of Coinlight
+    // meanwhile must not bring the window back over it.
     hide();
-    const ExecResult run = ExecCmd(m_commandString, m_context.preferences.searchPaths.mame, [] {
+    m_context.flags.emulatorRunning = true;
+    const ExecResult run = ExecCmd(commandLine, m_context.preferences.searchPaths.mame, [] {
         QApplication::processEvents();
         return true;
     });
+    m_context.flags.emulatorRunning = false;
     if (!run.message.empty()) {
         m_prompter.Inform(QString::fromStdString(run.message), PromptIcon::Critical);
         if (run.IsFatal()) {
@@ -215,10 +225,6 @@ bool frmMain::RunEmulator(const char* routine) {
             return false;
         }
     }
-    if (const auto failure = WriteLastRun(m_context.data, m_commandString, routine)) {
-        ShowMessage(m_prompter, *failure);
-    }
-    show();
     return true;
 }
 

@@ -103,9 +103,11 @@ bool frmMain::ApplyArcadeList(LoadedList loaded) {
     m_controls.lvAll->Model().Reset(m_arcadeRows, AllRows(*m_arcadeRows));
     m_controls.lvAvailable->Model().Reset(m_arcadeRows, std::move(loaded.available));
     m_controls.lvUnavailable->Model().Reset(m_arcadeRows, std::move(loaded.unavailable));
-    for (MachineListView* list :
-         {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
-        list->SelectRow(0);
+    if (!m_context.flags.formLoading) { // the start selects once the lists are sorted
+        for (MachineListView* list :
+             {m_controls.lvAll, m_controls.lvAvailable, m_controls.lvUnavailable}) {
+            SelectSavedMachine(*list);
+        }
     }
     return true;
 }
@@ -116,8 +118,24 @@ bool frmMain::ApplyOtherList(LoadedList loaded) {
     }
     m_otherRows = loaded.machines;
     m_controls.lvOther->Model().Reset(m_otherRows, AllRows(*m_otherRows));
-    m_controls.lvOther->SelectRow(0);
+    if (!m_context.flags.formLoading) {
+        SelectSavedMachine(*m_controls.lvOther);
+    }
     return true;
+}
+
+void frmMain::SelectSavedMachine(MachineListView& list) {
+    MachineListModel& model = list.Model();
+    if (model.rowCount() == 0) {
+        return;
+    }
+    // A machine that a filter now hides is simply not found: the first row serves.
+    const std::string& key = SavedStateOf(list).key;
+    int row = 0;
+    if (key.size() > 2 && key.starts_with("k.")) {
+        row = std::max(0, model.RowOfShortName(std::string_view(key).substr(2)));
+    }
+    list.SelectRow(row);
 }
 
 bool frmMain::LoadListsArcade() {

@@ -17,6 +17,7 @@
 #include "frmMain.h"
 #include "frmSplash.h"
 #include "lists/ListColumns.h"
+#include "options/PathRules.h"
 #include "settings/MameIniBase.h"
 
 namespace coinlight {
@@ -27,6 +28,9 @@ QString ToQString(const std::filesystem::path& path) {
     return QString::fromStdString(path.string());
 }
 
+/// What the window manager's frame may add around the window.
+constexpr QSize kFrameAllowance(16, 48);
+
 /// The catalogue files that must all be there before a list can load.
 constexpr const char* kCatalogueFiles[] = {
     "machine.xml",    "software.xml",   "arcadeinfo.txt", "otherinfo.txt", "crcinfo.txt",
@@ -35,11 +39,39 @@ constexpr const char* kCatalogueFiles[] = {
 } // namespace
 
 void frmMain::CentreOnScreen() {
-    resize(1100, 720);
+    QSize size(1100, 720);
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen != nullptr) {
-        move(screen->availableGeometry().center() - rect().center());
+        // At a large scale the designed size can exceed the screen: the window takes what
+        // there is, leaving room for the frame the window manager adds.
+        const QRect available = screen->availableGeometry();
+        size = size.boundedTo(available.size() - kFrameAllowance);
+        resize(size);
+        move(available.center() - rect().center());
+    } else {
+        resize(size);
     }
+    m_normalGeometry = geometry();
+}
+
+void frmMain::KeepOnScreen() {
+    const QScreen* screen = this->screen();
+    if (screen == nullptr || isMaximized() || isMinimized()) {
+        return;
+    }
+    const QRect available = screen->availableGeometry();
+    QRect frame = frameGeometry();
+    if (available.contains(frame)) {
+        return;
+    }
+    const QSize frameExtra = frame.size() - size();
+    resize(size().boundedTo(available.size() - frameExtra));
+    frame = frameGeometry();
+    frame.moveLeft(std::clamp(frame.left(), available.left(),
+                              std::max(available.left(), available.right() - frame.width() + 1)));
+    frame.moveTop(std::clamp(frame.top(), available.top(),
+                             std::max(available.top(), available.bottom() - frame.height() + 1)));
+    move(frame.topLeft());
     m_normalGeometry = geometry();
 }
 
@@ -161,14 +193,36 @@ bool frmMain::ReadBranch(bool& startOver) {
         startOver = true;
         return true;
     }
-    if (!CheckSupportChanges()) {
+    if (!EnsureMameExecutable() || !CheckSupportChanges()) {
         return false;
     }
     preferences.mame.mameExeSize = m_currentMameSize;
     m_controls.mnuViewShots->setChecked(preferences.view.snapshots);
+    m_controls.mnuViewShots->setEnabled(false); // the snapshot pane is not built yet
     m_controls.mnuViewArcadeFavorites->setChecked(preferences.view.favoriteArcade);
     m_controls.mnuViewOtherFavorites->setChecked(preferences.view.favoriteOther);
     return true;
+}
+
+bool frmMain::EnsureMameExecutable() {
+    // A MAME that has gone (uninstalled, moved, a hand-edited path) is asked for again with
+    // every other choice kept: noting its size as 0 would cost the user options.ini at the
+    // next start.
+    for (;;) {
+        const SearchPathPreferences& paths = m_context.preferences.searchPaths;
+        const auto executable =
+            std::filesystem::path(paths.mame) / m_context.preferences.mame.executable;
+        if (IsExecutableFile(executable)) {
+            return true;
+        }
+        m_prompter.Inform(QStringLiteral("The MAME executable ") + ToQString(executable) +
+                          QStringLiteral(" cannot be found.  Coinlight will open Options so you "
+                                         "can correct this."));
+        if (!OpenOptions(true) || m_context.flags.fatalErrorFlag) {
+            m_context.flags.closeRequested = true;
+            return false;
+        }
+    }
 }
 
 void frmMain::ResetHiddenSortKeys() {
@@ -363,15 +417,7 @@ void frmMain::RestoreSelections() {
         if (saved.sortKey != 0 || saved.sortOrder != 0) {
             model.Sort(saved.sortKey, saved.sortOrder == 1);
         }
-        if (model.rowCount() == 0) {
-            continue;
-        }
-        int row = 0;
-        if (saved.key.size() > 2 && saved.key.starts_with("k.")) {
-            // A machine that a filter now hides is simply not found: the first row serves.
-            row = std::max(0, model.RowOfShortName(std::string_view(saved.key).substr(2)));
-        }
-        list->SelectRow(row);
+        SelectSavedMachine(*list);
     }
 }
 

@@ -96,9 +96,13 @@ void frmMain::PlayOther() {
         ShowMessage(m_prompter, *launch.strayIniWarning);
     }
     m_commandString = launch.commandLine;
-    if (!RunEmulator("PlayOther")) {
+    if (!RunEmulator(m_commandString)) {
         return;
     }
+    if (const auto failure = WriteLastRun(m_context.data, m_commandString, "PlayOther")) {
+        ShowMessage(m_prompter, *failure);
+    }
+    show();
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {
         return;

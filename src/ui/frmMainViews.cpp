@@ -58,11 +58,10 @@ void frmMain::TickView(QAction* entry) {
 
 void frmMain::UpdateCommandSet() {
     const MainControls& c = m_controls;
-    for (QWidget* control :
-         {static_cast<QWidget*>(c.cmdStart), static_cast<QWidget*>(c.cmdAudit),
-          static_cast<QWidget*>(c.cmdInfo), static_cast<QWidget*>(c.lblBLinks[LinkStart]),
-          static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
-          static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
+    SetStartCommands(true);
+    for (QWidget* control : {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
+                             static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
+                             static_cast<QWidget*>(c.lblBLinks[LinkInfo])}) {
         control->setEnabled(true);
     }
     const bool hasOther = c.mnuViewOtherMachines->isEnabled();

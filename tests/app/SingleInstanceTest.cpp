@@ -48,6 +48,14 @@ TEST(SingleInstance, ASecondStartRaisesTheFirstAndLeavesWithoutAWindow) {
     const auto dataFolder = home / "data" / "Coinlight";
     ASSERT_TRUE(WaitUntilListening(SingleInstance::ServerName(dataFolder)));
 
+    // The first listens before its load makes the folders: wait for them, or it could make
+    // temp again after it was removed below and fool the check on the second start.
+    QElapsedTimer loading;
+    loading.start();
+    while (!std::filesystem::exists(dataFolder / "temp") && loading.elapsed() < 15000) {
+        QThread::msleep(50);
+    }
+    ASSERT_TRUE(std::filesystem::exists(dataFolder / "temp"));
     // Even this marker cannot let a second Coinlight through: it is read too late.
     test::WriteFile(dataFolder / "settings" / "!allowmany.txt", "");
     std::filesystem::remove_all(dataFolder / "temp");

@@ -61,12 +61,13 @@ TEST(RunMAMEList, AMissingMameFolderWarnsAndThenEndsTheStart) {
         RunMAMEList("listxml", {folder.temp / "gone", "mame"}, folder.data, progress);
     EXPECT_TRUE(outcome.fatalError);
     ASSERT_EQ(outcome.messages.size(), 2u);
-    EXPECT_EQ(outcome.messages[0].text,
-              "There is a problem communicating with the drive MAME is on.  Try again.");
+    EXPECT_EQ(outcome.messages[0].text, "The MAME folder " + (folder.temp / "gone").string() +
+                                            " cannot be reached.  Check the MAME path in "
+                                            "Options and try again.");
     EXPECT_EQ(outcome.messages[1].text,
               "The machine.xml was not created.  Coinlight will now close.\n\nThis may mean "
-              "Coinlight is installed in a Windows protected folder (such as Program Files).\n"
-              "Coinlight needs to be installed in an unprotected folder.");
+              "you do not have permission to read or write files in " +
+                  folder.data.Output().string() + ".");
 }
 
 TEST(BackupMAMEFile, KeepsTheOldCaptureUnderTheDoubledName) {

@@ -45,7 +45,8 @@ TEST(AppFolders, IdeModeIsTheEnvironmentSwitch) {
 
 TEST(AppFolders, MakesTheFolderTreeAndReportsWhatStopsIt) {
     TempFolder folder;
-    const DataLayout layout{folder / "data with blanks $x"};
+    // On a new account even the parents of the data folder may be missing.
+    const DataLayout layout{folder / "new home" / ".local" / "share" / "data with blanks $x"};
     EXPECT_FALSE(MakeFolderTree(layout));
     for (const auto& made :
          {layout.Settings(), layout.Output(), layout.Software(), layout.Temp()}) {

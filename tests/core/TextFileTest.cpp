@@ -36,17 +36,6 @@ TEST(TextFile, ReadersAcceptCrLfAndLfAndALastLineWithoutBreak) {
     EXPECT_FALSE(LineReader(folder / "none").IsOpen());
 }
 
-TEST(TextFile, LineReaderHandlesLinesLongerThanItsBuffer) {
-    TempFolder folder;
-    const auto file = folder / "long.txt";
-    const std::string huge(3 * 1024 * 1024 + 17, 'q');
-    WriteFile(file, "a\r\n" + huge + "\r\nb\r");
-    const auto lines = ReadAllLines(file);
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[1], huge);
-    EXPECT_EQ(lines[2], "b");
-}
-
 TEST(TextFile, BytesPassThroughUnchanged) {
     TempFolder folder;
     const auto file = folder / "bytes.txt";
@@ -78,6 +67,51 @@ TEST(AtomicFileWriter, AMissingFolderIsReportedNotCreated) {
     EXPECT_FALSE(writer.IsOpen());
     EXPECT_FALSE(writer.Commit());
     EXPECT_FALSE(writer.Error().empty());
+}
+
+TEST(AtomicFileWriter, AReplacedFileKeepsItsRightsAndItsLinks) {
+    TempFolder folder;
+    const auto file = folder / "options.ini";
+    WriteFile(file, "old");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read |
+                                           std::filesystem::perms::owner_write);
+    ASSERT_TRUE(WriteFileBytes(file, "new"));
+    EXPECT_EQ(std::filesystem::status(file).permissions() & std::filesystem::perms::all,
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write)
+        << "a private file stays private";
+
+    // A linked settings file (kept in a dotfiles repository, say) is written where it lives.
+    const auto target = folder / "dotfiles" / "options.ini";
+    WriteFile(target, "linked old");
+    const auto link = folder / "link.ini";
+    std::filesystem::create_symlink(target, link);
+    ASSERT_TRUE(WriteFileBytes(link, "linked new"));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(ReadFile(target), "linked new");
+    const auto relative = folder / "dotfiles" / "relative.ini";
+    std::filesystem::create_symlink("options.ini", relative);
+    ASSERT_TRUE(WriteFileBytes(relative, "through a relative link"));
+    EXPECT_EQ(ReadFile(target), "through a relative link");
+}
+
+TEST(AtomicFileWriter, LeftoversOfKilledWritesGoAndThoseOfLiveOnesStay) {
+    TempFolder folder;
+    const auto file = folder / "arcadeinfo.txt";
+    WriteFile(file, "catalogue");
+    // Named as a process that cannot exist, one of an older version, one of this process.
+    const auto dead = folder / "arcadeinfo.txt.tmp-2147483646-ab12CD";
+    const auto older = folder / "arcadeinfo.txt.tmp-Xy12ab";
+    const auto live = folder / TemporaryPatternFor("arcadeinfo.txt");
+    const auto foreign = folder / "notes.tmp-of-mine.txt";
+    for (const auto& leftover : {dead, older, live, foreign}) {
+        WriteFile(leftover, "half");
+    }
+    RemoveOrphanedTemporaries(folder.Path());
+    EXPECT_FALSE(std::filesystem::exists(dead));
+    EXPECT_FALSE(std::filesystem::exists(older));
+    EXPECT_TRUE(std::filesystem::exists(live)) << "a write in progress keeps its file";
+    EXPECT_TRUE(std::filesystem::exists(foreign)) << "not a name of ours";
+    EXPECT_EQ(ReadFile(file), "catalogue");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "RecordBuilder.h"
+#include "lists/RowSort.h"
 #include "support/TestFiles.h"
 
 namespace coinlight {
@@ -125,19 +126,44 @@ TEST_F(Loader, CountsAreReportedAtTheFirstRowEvery25thAndAtTheEnd) {
     EXPECT_EQ(yields, 60);
 }
 
-TEST_F(Loader, ABrokenRecordOrMissingFileFailsWithTheVersionAdvice) {
-    WriteFile(m_info, RecordLine(Record("good")) + "\"short\",\"record\"\r\n");
+TEST_F(Loader, ABrokenRecordOrMissingFileFailsNamingTheMachine) {
+    std::string damaged = RecordLine(Record("dkong"));
+    damaged.erase(damaged.rfind("Shooter") - 1, 1); // its last field lost a quote
+    WriteFile(m_info, RecordLine(Record("good")) + damaged);
     const LoadedList broken = LoadArcadeList(m_info, Options(), {});
-    EXPECT_NE(broken.error.find("Error In LoadListsArcade: "), std::string::npos);
-    EXPECT_NE(broken.error.find("This might mean you are not using the correct version of MAME."),
-              std::string::npos);
-    WriteFile(m_info,
-              "\"" + std::string(70'000, 'x') + "\"" + RecordLine(Record("after")).substr(1));
-    EXPECT_FALSE(LoadArcadeList(m_info, Options(), {}).error.empty())
-        << "a line longer than any catalogue line is refused, not misread";
+    EXPECT_EQ(broken.error, "Error In LoadListsArcade: Input past end of file\nROM: dkong\n"
+                            "Line Number: 2\n\nThis might mean you are not using the correct "
+                            "version of MAME.");
+    WriteFile(m_info, "\"short\",\"record\"\r\n");
+    EXPECT_NE(LoadArcadeList(m_info, Options(), {}).error.find("\nROM: \nLine Number: 1"),
+              std::string::npos)
+        << "a line without a name field names nothing rather than a piece of itself";
     const LoadedList missing = LoadOtherList(m_folder / "none.txt", Options(), {});
     EXPECT_NE(missing.error.find("Error In LoadListsOther: "), std::string::npos);
     EXPECT_TRUE(missing.machines->rows.empty());
+}
+
+TEST_F(Loader, AnyRecordTheWriterCanWriteLoads) {
+    const std::string description(70'000, 'x');
+    WriteFile(m_info, RecordLine(Record("long", {{ColMachine, description}})) +
+                          RecordLine(Record("after")));
+    const LoadedList list = LoadArcadeList(m_info, Options(), {});
+    ASSERT_EQ(list.error, "");
+    ASSERT_EQ(list.machines->rows.size(), 2u);
+    EXPECT_EQ(list.machines->rows[0].Field(ColMachine), description);
+    EXPECT_EQ(list.machines->rows[0].Field(ColCategory), "Shooter");
+    EXPECT_EQ(list.machines->rows[1].ShortName(), "after");
+}
+
+TEST_F(Loader, RowsStayReadableWhenAnotherProgramEmptiesTheFile) {
+    WriteFile(m_info, RecordLine(Record("pacman")) + RecordLine(Record("galaga")));
+    const LoadedList list = LoadArcadeList(m_info, Options(), {});
+    ASSERT_EQ(list.error, "");
+    std::filesystem::resize_file(m_info, 0); // `: > arcadeinfo.txt` while Coinlight runs
+    std::vector<std::uint32_t> order = AllRows(*list.machines);
+    SortRows(order, *list.machines, ColName, false);
+    EXPECT_EQ(Names(list, order), (std::vector<std::string>{"galaga", "pacman"}));
+    EXPECT_EQ(list.machines->rows[1].Field(ColCategory), "Shooter");
 }
 
 } // namespace

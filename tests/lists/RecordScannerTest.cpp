@@ -86,6 +86,14 @@ TEST_P(RecordScannerPaths, AgreesWithTheRuleOnOddButValidLines) {
     EXPECT_FALSE(ParseRecordLine(missingComma, spans));
     EXPECT_FALSE(ParseRecordLine(semicolons + "\"\"", spans)) << "two quotes too many";
     EXPECT_FALSE(ParseRecordLine(semicolons + "\n" + semicolons, spans)) << "two lines";
+    // 44 quotes and 21 delimiters, but the first delimiter shares the line's opening quote:
+    // no field may end before it begins.
+    std::string shared = "\",\"";
+    for (int field = 0; field < 20; ++field) {
+        shared += ",\"a\"";
+    }
+    shared += "\"a\"";
+    EXPECT_FALSE(ParseRecordLine(shared, spans)) << shared;
 }
 
 INSTANTIATE_TEST_SUITE_P(WideAndNarrow, RecordScannerPaths, ::testing::Values(true, false));

@@ -32,6 +32,13 @@ void WriteFile(const std::filesystem::path& file, std::string_view bytes) {
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+void MakeExecutable(const std::filesystem::path& file) {
+    WriteFile(file, "#!/bin/sh\n");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_all |
+                                           std::filesystem::perms::group_exec |
+                                           std::filesystem::perms::others_exec);
+}
+
 std::string ReadFile(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     std::ostringstream content;

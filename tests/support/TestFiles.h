@@ -25,6 +25,8 @@ private:
 
 /// Writes the bytes as they are, making the folders on the way.
 void WriteFile(const std::filesystem::path& file, std::string_view bytes);
+/// A small shell script that anyone may run: a stand-in wherever a program must exist.
+void MakeExecutable(const std::filesystem::path& file);
 /// The file's bytes; empty when it cannot be read.
 std::string ReadFile(const std::filesystem::path& file);
 /// The folder of the hand-written fixture files.

@@ -55,17 +55,39 @@ TEST_F(MainWindowLaunch, AStartRunsTheEmulatorAndShowsWhatItPrinted) {
     EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList);
 }
 
-TEST_F(MainWindowLaunch, EnterAndDoubleClickStartWhatTheListOffers) {
+std::size_t Count(const std::string& text, const std::string& what) {
+    std::size_t count = 0;
+    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(MainWindowLaunch, OneEnterOrDoubleClickStartsOnce) {
     ASSERT_TRUE(Load()) << Told();
+    Form().show();
     Form().ViewAvailableArcade();
     Select(*Controls().lvAvailable, "galaga");
     std::filesystem::remove(m_mame.Launches());
     QTest::keyClick(Controls().lvAvailable, Qt::Key_Return);
-    EXPECT_NE(Launches().find("\tgalaga\n"), std::string::npos) << "Enter in the list starts it";
+    EXPECT_EQ(Count(Launches(), "\tgalaga\n"), 1u) << "Enter in the list starts it, once";
+    EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraVerify)
+        << "the error output of that one run is on show";
+
+    Form().ReturnList1();
+    std::filesystem::remove(m_mame.Launches());
+    const QModelIndex galaga = Controls().lvAvailable->currentIndex();
+    // A double click is a click, then the second press that the system reports as double.
+    const QPoint onGalaga = Controls().lvAvailable->visualRect(galaga).center();
+    QTest::mouseClick(Controls().lvAvailable->viewport(), Qt::LeftButton, {}, onGalaga);
+    QTest::mouseDClick(Controls().lvAvailable->viewport(), Qt::LeftButton, {}, onGalaga);
+    EXPECT_EQ(Count(Launches(), "\tgalaga\n"), 1u) << "a double click starts it, once";
 
     Form().ReturnList1();
     Form().ViewUnavailableArcade();
-    emit Controls().lvUnavailable->RowActivated(0);
+    const auto told = m_prompter.Texts().size();
+    QTest::keyClick(Controls().lvUnavailable, Qt::Key_Return);
+    ASSERT_EQ(m_prompter.Texts().size(), told + 1) << Told();
     EXPECT_EQ(m_prompter.Prompts().back().title, "Start");
     EXPECT_EQ(m_prompter.Texts().back(), "This ROM is unavailable.");
 
@@ -74,6 +96,26 @@ TEST_F(MainWindowLaunch, EnterAndDoubleClickStartWhatTheListOffers) {
     Controls().pages->setCurrentWidget(Controls().fraVerify);
     QTest::keyClick(&Form(), Qt::Key_Return);
     EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList) << "Enter leaves a text page";
+}
+
+TEST_F(MainWindowLaunch, TheWindowStaysHiddenWhileMameRunsWhateverAnotherStartAsks) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().show();
+    Select(*Controls().lvAll, "pacman");
+    m_mame.SetBehaviour("sleep 900\n");
+    std::filesystem::remove(m_mame.Launches());
+    bool hiddenAfterRaise = false;
+    QTimer::singleShot(400, &Form(), [this, &hiddenAfterRaise] {
+        Form().RaiseFromAnotherStart();
+        hiddenAfterRaise = Form().isHidden();
+        Form().PlayArcade(); // a start from a second window, or a key that came through
+    });
+    Form().PlayArcade();
+    EXPECT_TRUE(hiddenAfterRaise) << "another start must not bring the window over MAME";
+    EXPECT_EQ(Count(Launches(), "\tpacman\n"), 1u) << "no second MAME while one runs";
+    EXPECT_FALSE(Form().isHidden()) << "the window is back once MAME ended";
+    Form().RaiseFromAnotherStart();
+    EXPECT_TRUE(Form().isVisible());
 }
 
 TEST_F(MainWindowLaunch, OtherCommandsOfTheMachinesProfileFollowTheName) {

@@ -1,9 +1,12 @@
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 #include "MainWindowFixture.h"
 #include "core/ProfileFile.h"
@@ -16,6 +19,29 @@ protected:
     MainWindow() {
         AddRom("pacman");
         AddRom("galaga");
+    }
+
+    /// Answers the next Options dialog: valid folders, then the filter boxes named, then OK.
+    void TickFiltersInOptions(std::vector<const char*> boxes) {
+        AnswerDialog([boxes](QDialog& dialog) {
+            // The paths page first: its fields must be valid for OK to pass.
+            const auto fill = [&dialog](const char* name, const QString& text) {
+                dialog.findChild<QLineEdit*>(QString::fromLatin1(name))->setText(text);
+            };
+            for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
+                                     "txtPluginsPath", "txtLanguagePath"}) {
+                fill(name, QDir::tempPath());
+            }
+            dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+            for (const char* box : boxes) {
+                dialog.findChild<QAbstractButton*>(QString::fromLatin1(box))->click();
+            }
+            dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+            if (dialog.isVisible()) {
+                ADD_FAILURE() << "Options did not close";
+                dialog.reject();
+            }
+        });
     }
 };
 
@@ -253,24 +279,7 @@ TEST_F(MainWindow, AMissingRomFolderLeavesEveryMachineThatNeedsFilesUnavailable)
 TEST_F(MainWindow, FiltersChosenInOptionsReloadTheListsAndMarkTheCaption) {
     ASSERT_TRUE(Load()) << Told();
     Form().ViewOther();
-    AnswerDialog([](QDialog& dialog) {
-        // The paths page first: its fields must be valid for OK to pass.
-        const auto fill = [&dialog](const char* name, const QString& text) {
-            dialog.findChild<QLineEdit*>(QString::fromLatin1(name))->setText(text);
-        };
-        for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
-                                 "txtPluginsPath", "txtLanguagePath"}) {
-            fill(name, QDir::tempPath());
-        }
-        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
-        dialog.findChild<QAbstractButton*>(QStringLiteral("chkHideClonesArcade"))->click();
-        dialog.findChild<QAbstractButton*>(QStringLiteral("chkHideCHD"))->click();
-        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
-        if (dialog.isVisible()) {
-            ADD_FAILURE() << "Options did not close";
-            dialog.reject();
-        }
-    });
+    TickFiltersInOptions({"chkHideClonesArcade", "chkHideCHD"});
     Form().Options();
     ASSERT_EQ(DialogsOpened(), 1) << Told();
     const MainControls& c = Controls();
@@ -282,6 +291,93 @@ TEST_F(MainWindow, FiltersChosenInOptionsReloadTheListsAndMarkTheCaption) {
     EXPECT_EQ(ReadProfileValue(m_context.data.OptionsIni(), "View", "Filters", ""), "True");
     Form().ViewAllArcade();
     EXPECT_EQ(c.fraList->title(), "All Arcade Machines *");
+}
+
+TEST_F(MainWindow, AReloadKeepsEachListsSortAndSelectedMachine) {
+    ASSERT_TRUE(Load()) << Told();
+    const MainControls& c = Controls();
+    Form().SortColumn(*c.lvAll, ColYear);
+    Form().SortColumn(*c.lvAll, ColYear); // descending
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("galaga"));
+    Form().ViewAvailableArcade();
+    Form().SortColumn(*c.lvAvailable, ColManufacturer);
+    c.lvAvailable->SelectRow(c.lvAvailable->Model().RowOfShortName("pong"));
+
+    TickFiltersInOptions({"chkHideClonesArcade"});
+    Form().Options();
+    ASSERT_EQ(DialogsOpened(), 1) << Told();
+
+    ASSERT_EQ(c.lvAvailable->SelectedMachine()->ShortName(), "pong");
+    EXPECT_EQ(c.lvAvailable->header()->sortIndicatorSection(), ColManufacturer);
+    EXPECT_EQ(Names(*c.lvAvailable), (std::vector<std::string>{"pong", "galaga", "pacman"}))
+        << "Atari, Namco, Namco (Midway license)";
+    Form().ViewAllArcade();
+    ASSERT_NE(c.lvAll->SelectedMachine(), nullptr);
+    EXPECT_EQ(c.lvAll->SelectedMachine()->ShortName(), "galaga");
+    EXPECT_EQ(c.lvAll->header()->sortIndicatorSection(), ColYear);
+    EXPECT_EQ(c.lvAll->header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    std::vector<std::string> years;
+    for (int row = 0; row < c.lvAll->Model().rowCount(); ++row) {
+        years.emplace_back(c.lvAll->Model().Row(row)->Field(ColYear));
+    }
+    EXPECT_TRUE(std::is_sorted(years.rbegin(), years.rend())) << "newest first, after the reload";
+}
+
+TEST_F(MainWindow, NoControlOffersACommandThatDoesNotExist) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().show();
+    const MainControls& c = Controls();
+    for (QWidget* control :
+         {static_cast<QWidget*>(c.cmdAudit), static_cast<QWidget*>(c.cmdInfo),
+          static_cast<QWidget*>(c.cmdArcadeSettings), static_cast<QWidget*>(c.cmdOtherSettings),
+          static_cast<QWidget*>(c.lblBLinks[LinkAudit]),
+          static_cast<QWidget*>(c.lblBLinks[LinkInfo]),
+          static_cast<QWidget*>(c.lblBLinks[LinkArcadeSettings]),
+          static_cast<QWidget*>(c.lblBLinks[LinkOtherSettings])}) {
+        EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
+    }
+    EXPECT_FALSE(c.mnuViewShots->isEnabled());
+    c.lvAll->SelectRow(c.lvAll->Model().RowOfShortName("pacman"));
+    EXPECT_TRUE(c.lblBLinks[LinkStart]->isEnabled());
+    Form().ViewOther();
+    EXPECT_FALSE(c.lblBLinks[LinkStart]->isEnabled()) << "other machines cannot start yet";
+    EXPECT_FALSE(c.cmdStart->isEnabled());
+    Form().ViewAllArcade();
+    EXPECT_TRUE(c.lblBLinks[LinkStart]->isEnabled());
+}
+
+TEST_F(MainWindow, TheWindowFitsTheScreenAndTheStripHoldsStill) {
+    ASSERT_TRUE(Load()) << Told();
+    Form().show();
+    QApplication::processEvents();
+    const QRect screen = Form().screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(Form().frameGeometry()))
+        << "the designed size is larger than the offscreen screen of " << screen.width() << "x"
+        << screen.height();
+
+    // Choosing an unavailable machine hides the start boxes; the strip must not move.
+    MachineListView& all = *Controls().lvAll;
+    all.SelectRow(all.Model().RowOfShortName("pacman"));
+    QApplication::processEvents();
+    const int top = Controls().lblPanel[0]->mapTo(&Form(), QPoint()).y();
+    all.SelectRow(all.Model().RowOfShortName("mspacman"));
+    QApplication::processEvents();
+    EXPECT_FALSE(Controls().chkAutoSave->isVisible());
+    EXPECT_EQ(Controls().lblPanel[0]->mapTo(&Form(), QPoint()).y(), top);
+}
+
+TEST_F(MainWindow, TypingFindsMachinesByDescriptionWhateverTheSortColumn) {
+    ASSERT_TRUE(Load()) << Told();
+    MachineListView& all = *Controls().lvAll;
+    Form().SortColumn(all, ColName);
+    all.setCurrentIndex(all.Model().index(all.SelectedRow(), ColName));
+    all.keyboardSearch(QStringLiteral("d"));
+    all.keyboardSearch(QStringLiteral("o"));
+    all.keyboardSearch(QStringLiteral("n"));
+    ASSERT_NE(all.SelectedMachine(), nullptr);
+    EXPECT_EQ(all.SelectedMachine()->ShortName(), "dkongb") << "Donkey Kong (bootleg)";
+    all.keyboardSearch(QStringLiteral("m")); // soon after: "donm" names nothing
+    EXPECT_EQ(all.SelectedMachine()->ShortName(), "dkongb");
 }
 
 } // namespace

@@ -1,3 +1,6 @@
+#include <QAbstractButton>
+#include <QLineEdit>
+
 #include "MainWindowFixture.h"
 #include "core/ProfileFile.h"
 
@@ -116,6 +119,52 @@ TEST_F(MainLoad, ClosingEmptiesTempAndSavesTheViewUnlessTheUserGaveUp) {
     Form().close();
     EXPECT_EQ(ReadProfileValue(m_context.data.OptionsIni(), "View", "List View", ""),
               "Other Machines");
+}
+
+TEST_F(MainLoad, AMameThatIsGoneIsAskedForAgainAndNoChoiceIsLost) {
+    WriteOptions("[Preferences Other]\r\nHide Bootleg=True\r\n\r\n"
+                 "[View]\r\nAll Sort Key=7\r\n");
+    const auto options = m_context.data.OptionsIni();
+    const auto executable = m_mame.folder / m_mame.executable;
+    const auto moved = m_folder / "mame-elsewhere" / "mame";
+    std::filesystem::create_directories(moved.parent_path());
+    std::filesystem::rename(executable, moved);
+
+    // Cancelling ends the start and leaves every choice in place.
+    CancelOptions();
+    EXPECT_FALSE(Load());
+    ASSERT_FALSE(m_prompter.Texts().empty());
+    EXPECT_EQ(m_prompter.Texts()[0].toStdString(),
+              "The MAME executable " + executable.string() +
+                  " cannot be found.  Coinlight will open Options so you can correct this.");
+    EXPECT_EQ(ReadProfileValue(options, "Preferences Other", "Hide Bootleg", ""), "True");
+    EXPECT_EQ(ReadProfileValue(options, "MAME", "Mame.exe Size", ""),
+              std::to_string(*FileSize(moved)))
+        << "the size of the MAME it knew is kept";
+
+    // Pointing Options at where MAME went now: the start goes on, with the new size noted.
+    m_context.flags = ControlFlags{};
+    AnswerDialog([this, &moved](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>(QStringLiteral("txtMAMEPath"))
+            ->setText(QString::fromStdString(moved.string()));
+        for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
+                                 "txtPluginsPath", "txtLanguagePath"}) {
+            dialog.findChild<QLineEdit*>(QString::fromLatin1(name))
+                ->setText(QString::fromStdString(m_folder.Path().string()));
+        }
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+        if (dialog.isVisible()) {
+            dialog.reject();
+        }
+    });
+    EXPECT_TRUE(Load()) << Told();
+    EXPECT_EQ(m_context.preferences.searchPaths.mame, moved.parent_path().string());
+    EXPECT_EQ(ReadProfileValue(options, "Preferences Other", "Hide Bootleg", ""), "True");
+    EXPECT_EQ(ReadProfileValue(options, "View", "All Sort Key", ""), "7");
+    EXPECT_EQ(ReadProfileValue(options, "MAME", "Mame.exe Size", ""),
+              std::to_string(*FileSize(moved)));
+    EXPECT_EQ(Told().find("Problem in options.ini"), std::string::npos) << Told();
 }
 
 } // namespace

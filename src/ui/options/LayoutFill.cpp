@@ -48,12 +48,13 @@ constexpr std::array kBesideMame = {
 };
 
 // A packaged MAME keeps all ROMs, of either family and of the software lists, in one folder
-// of the user's: the arcade field needs it, the optional two take it where it exists.
+// of the user's. All three fields name it whether it exists yet or not: OK makes it, so a
+// first run gets the same fields as any later one.
 constexpr std::array kDistribution = {
     LayoutEntry{ArcadeRoms, Base::UserFolder, "roms", When::Always},
-    LayoutEntry{OtherRoms, Base::UserFolder, "roms", When::IfExists},
+    LayoutEntry{OtherRoms, Base::UserFolder, "roms", When::Always},
     LayoutEntry{Hash, Base::DistributionData, "hash", When::IfExists},
-    LayoutEntry{Software, Base::UserFolder, "roms", When::IfExists},
+    LayoutEntry{Software, Base::UserFolder, "roms", When::Always},
     LayoutEntry{Samples, Base::DistributionData, "samples", When::Always},
     LayoutEntry{Artwork, Base::DistributionData, "artwork", When::Always, {"artwork/cabinet"}},
     LayoutEntry{Controller, Base::DistributionData, "ctrlr", When::Always},
@@ -117,13 +118,17 @@ FolderLayout ChooseLayout(const std::filesystem::path& mameFolder) {
 }
 
 void PrepareUserRomFolder(const MameLocations& locations, const PathTexts& texts) {
-    const LayoutEntry& roms = kDistribution.front();
-    if (locations.UserFolder().empty() ||
-        texts[roms.field] != (locations.UserFolder() / roms.folder).string()) {
+    if (locations.UserFolder().empty()) {
         return;
     }
-    std::error_code ignored; // a folder that cannot be made is reported as missing by OK
-    std::filesystem::create_directories(locations.UserFolder() / roms.folder, ignored);
+    const std::filesystem::path roms = locations.UserFolder() / kDistribution.front().folder;
+    for (PathField field : {ArcadeRoms, OtherRoms, Software}) {
+        if (texts[field] == roms.string()) {
+            std::error_code ignored; // a folder that cannot be made is reported as missing
+            std::filesystem::create_directories(roms, ignored);
+            return;
+        }
+    }
 }
 
 FolderLayout FillFromLayout(const std::filesystem::path& mameFolder, const MameLocations& locations,

@@ -24,8 +24,8 @@ FolderLayout FillFromLayout(const std::filesystem::path& mameFolder, const MameL
                             PathTexts& texts);
 
 /// A packaged MAME keeps ROMs in the user's own .mame folder, which MAME makes only for
-/// what it writes. When the arcade field names that ROM folder and it is missing, it is
-/// made, so that a first run can be accepted as filled. Other fields are never touched.
+/// what it writes. When a ROM or software field names that ROM folder and it is missing,
+/// it is made, so that a first run can be accepted as filled. Fields are never touched.
 void PrepareUserRomFolder(const MameLocations& locations, const PathTexts& texts);
 
 } // namespace coinlight

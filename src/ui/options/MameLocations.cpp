@@ -6,21 +6,6 @@
 
 namespace coinlight {
 
-namespace {
-
-bool IsExecutableFile(const std::filesystem::path& file) {
-    std::error_code error;
-    const auto status = std::filesystem::status(file, error);
-    if (error || !std::filesystem::is_regular_file(status)) {
-        return false;
-    }
-    using std::filesystem::perms;
-    return (status.permissions() & (perms::owner_exec | perms::group_exec | perms::others_exec)) !=
-           perms::none;
-}
-
-} // namespace
-
 MameLocations SystemMameLocations(const EnvironmentLookup& environment) {
     MameLocations locations;
     locations.home = environment("HOME").value_or("");

@@ -49,6 +49,10 @@ OkPathsResult CheckPathsForOk(const OkPathsInput& input) {
     if (IsRootOrRelative(executable->folder)) {
         return FailOnMamePath(std::move(result), kMameInRoot, true);
     }
+    // A path to nothing would be stored, and every later start would run nothing.
+    if (!IsExecutableFile(input.mamePath)) {
+        return FailOnMamePath(std::move(result), kBadMamePath, false);
+    }
     result.executable = executable->name;
     result.mameFolder = executable->folder;
 

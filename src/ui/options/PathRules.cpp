@@ -68,4 +68,15 @@ std::optional<ExecutablePath> SplitExecutablePath(std::string_view path) {
     return ExecutablePath{std::string(path.substr(0, slash)), std::string(path.substr(slash + 1))};
 }
 
+bool IsExecutableFile(const std::filesystem::path& file) {
+    std::error_code error;
+    const auto status = std::filesystem::status(file, error);
+    if (error || !std::filesystem::is_regular_file(status)) {
+        return false;
+    }
+    using std::filesystem::perms;
+    return (status.permissions() & (perms::owner_exec | perms::group_exec | perms::others_exec)) !=
+           perms::none;
+}
+
 } // namespace coinlight

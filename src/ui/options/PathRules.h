@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,5 +47,8 @@ struct ExecutablePath {
     std::string name;
 };
 std::optional<ExecutablePath> SplitExecutablePath(std::string_view path);
+
+/// A regular file that someone may run.
+bool IsExecutableFile(const std::filesystem::path& file);
 
 } // namespace coinlight

@@ -67,6 +67,7 @@ protected:
 
     /// MAME and every required folder named, each existing.
     void FillValid(frmOptions& form) {
+        MakeExecutable(Folder("My MAME") + "/mame");
         SetText(form, "txtMAMEPath", Folder("My MAME") + "/mame");
         SetText(form, "txtArcadeROMPath", Folder("roms"));
         for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",

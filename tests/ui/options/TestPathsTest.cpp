@@ -71,6 +71,7 @@ TEST_F(FolderChecks, OkStopsAtTheFirstFieldThatFailsInTheOrderOfTheSave) {
     Preferences previous;
     OkPathsInput input;
     input.mamePath = Folder("MAME") + "/mame";
+    test::MakeExecutable(input.mamePath);
     input.previous = &previous;
     input.iniFolder = m_folder / "temp";
     input.texts[PathField::ArcadeRoms] = Folder("roms");

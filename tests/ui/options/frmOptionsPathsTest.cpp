@@ -8,11 +8,6 @@ namespace {
 
 using Texts = QStringList;
 
-void MakeExecutable(const std::filesystem::path& file) {
-    WriteFile(file, "#!/bin/sh\n");
-    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-}
-
 TEST_F(OptionsDialog, AFirstRunStartsFromTheMameOnThePathAndFillsAroundIt) {
     const std::string games = Folder("games");
     MakeExecutable(m_folder / "games" / "mame");
@@ -24,8 +19,6 @@ TEST_F(OptionsDialog, AFirstRunStartsFromTheMameOnThePathAndFillsAroundIt) {
     EXPECT_EQ(Text(*form, "txtArcadeROMPath"),
               games + "/roms/arcade;" + games + "/roms/arcade/bios");
     EXPECT_EQ(Text(*form, "txtMESSROMPath"), "") << "no roms/other beside it";
-    EXPECT_EQ(Text(*form, "txtSamPath"), games + "/samples");
-    EXPECT_EQ(Text(*form, "txtDiffPath"), games + "/diff");
     EXPECT_EQ(Text(*form, "txtINIPath"), m_context.data.Temp().string());
 
     m_request.firstRun = false;
@@ -45,10 +38,10 @@ TEST_F(OptionsDialog, APackagedMameIsAcceptedAsFilled) {
     m_request.firstRun = true;
     auto form = Open();
     EXPECT_EQ(Text(*form, "txtArcadeROMPath"), roms.string());
-    EXPECT_EQ(Text(*form, "txtMESSROMPath"), "") << "optional, and not there yet";
+    EXPECT_EQ(Text(*form, "txtMESSROMPath"), roms.string())
+        << "not there yet, but OK makes it: a first run fills what any later one fills";
+    EXPECT_EQ(Text(*form, "txtMESSSoftwarePath"), roms.string());
     EXPECT_EQ(Text(*form, "txtMESSHashPath"), share + "/hash");
-    EXPECT_EQ(Text(*form, "txtCtrlrPath"), share + "/ctrlr");
-    EXPECT_EQ(Text(*form, "txtNvramPath"), (m_folder / "home" / ".mame" / "nvram").string());
 
     PressOk(*form);
     EXPECT_TRUE(m_prompter.Prompts().empty()) << m_prompter.Texts().join('\n').toStdString();
@@ -67,12 +60,10 @@ TEST_F(OptionsDialog, ChoosingMameFillsOnlyTheEmptyFields) {
     Folder("MAME 0.251/roms/other");
     auto form = Open();
     SetText(*form, "txtSamPath", "/my/samples");
-    SetText(*form, "txtArcadeROMPath", "/my/roms");
     m_prompter.Queue(QString::fromStdString(mame + "/mame"));
     Click(*form, "cmdSelectMAME");
     EXPECT_EQ(Text(*form, "txtMAMEPath"), mame + "/mame");
     EXPECT_EQ(Text(*form, "txtSamPath"), "/my/samples");
-    EXPECT_EQ(Text(*form, "txtArcadeROMPath"), "/my/roms");
     EXPECT_EQ(Text(*form, "txtMESSROMPath"), mame + "/roms/other");
     EXPECT_EQ(Text(*form, "txtMESSHashPath"), "") << "optional and not there";
     EXPECT_EQ(Text(*form, "txtCheatPath"), mame + "/cheat") << "required: named anyway";
@@ -84,17 +75,7 @@ TEST_F(OptionsDialog, ChoosingMameFillsOnlyTheEmptyFields) {
     EXPECT_EQ(m_prompter.Prompts()[0].title, "Select your MAME executable.");
 }
 
-TEST_F(OptionsDialog, MameInTheRootIsRefusedAndNothingIsFilled) {
-    auto form = Open();
-    m_prompter.Queue(QStringLiteral("/mame"));
-    Click(*form, "cmdSelectMAME");
-    EXPECT_EQ(Messages(), Texts{"MAME should not reside in the root."});
-    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
-    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
-    EXPECT_EQ(Text(*form, "txtSamPath"), "");
-}
-
-TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
+TEST_F(OptionsDialog, TheBrowsersAddToMultiPathFieldsAndRefuseTheRoot) {
     auto form = Open();
     SetText(*form, "txtArcadeROMPath", "/a");
     m_prompter.Queue(QStringLiteral("/Mixed Case"));
@@ -119,6 +100,13 @@ TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
               (Texts{"Samples should not reside in the root.  Please select a folder.",
                      "Arcade ROMs should not reside in the root.  Please select a folder."}));
     EXPECT_EQ(m_prompter.Prompts().back().title, "Coinlight");
+
+    m_prompter.Queue(QStringLiteral("/mame"));
+    Click(*form, "cmdSelectMAME");
+    EXPECT_EQ(Messages().back(), "MAME should not reside in the root.");
+    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
+    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
+    EXPECT_EQ(Text(*form, "txtSamPath"), "") << "nothing is filled around a refused MAME";
 }
 
 TEST_F(OptionsDialog, OkCleansDoubledSeparatorsAndSavesOutputFoldersUnchecked) {
@@ -198,7 +186,12 @@ TEST_F(OptionsDialog, TheMamePathMustNameAnExecutableOutsideTheRoot) {
         {"/usr/games/", "You must select your MAME executable."},
         {"/mame", "MAME should not reside in the root."},
         {"games/mame", "MAME should not reside in the root."},
+        {"/opt/nomame/mame",
+         "It appears that something is wrong with your MAME path.  Please try again."},
+        {(m_folder / "not-a-program").string(),
+         "It appears that something is wrong with your MAME path.  Please try again."},
     };
+    WriteFile(m_folder / "not-a-program", "text, and not executable");
     for (const auto& [path, message] : cases) {
         ScriptedPrompter prompter;
         frmOptions form(m_context, prompter, m_request);
