@@ -178,8 +178,8 @@ PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
     }
     const std::vector<std::string> names = FavoriteNames(favoritesFile);
     const WantedNames wanted(names);
-    // Mapped: the kept lines are taken from the catalogue's own bytes.
-    const auto catalogue = FileText::Open(infoFile);
+    // Read whole, so that the kept lines are taken from its bytes without a copy of each.
+    const auto catalogue = ReadFileBig(infoFile);
     const std::vector<std::string_view> found =
         FindCatalogueLines(catalogue ? catalogue->View() : std::string_view(), wanted);
     std::string kept;

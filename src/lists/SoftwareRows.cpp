@@ -85,7 +85,7 @@ private:
 SoftwareLoad LoadListsSoftware(const std::filesystem::path& file, SoftwareKind kind) {
     SoftwareLoad load;
     std::array<std::string_view, SoftwareRows::kFields> fields;
-    auto text = FileText::Open(file);
+    auto text = ReadFileBig(file);
     if (!text || text->View().size() > std::numeric_limits<std::uint32_t>::max()) {
         load.rows = std::make_shared<SoftwareRows>();
         load.error = LoadError({kErrorFileNotFound, kFileNotFoundText, 1}, fields, 0);

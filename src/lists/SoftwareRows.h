@@ -18,14 +18,14 @@ namespace coinlight {
 /// Which titles the software list shows: `optSoftware(0)` or `optSoftware(1)`.
 enum class SoftwareKind { Available, Unavailable };
 
-/// The rows of a machine's software file, pointing into the file's text, which they keep
-/// (mapped, not copied): 20,000 titles cost no allocation of their own.
+/// The rows of a machine's software file, pointing into the file's text, which they keep:
+/// 20,000 titles cost no allocation of their own.
 class SoftwareRows {
 public:
     static constexpr std::size_t kFields = kSoftwareFieldCount;
 
     SoftwareRows() = default;
-    explicit SoftwareRows(FileText file) : m_file(std::move(file)) {}
+    explicit SoftwareRows(BigBuffer file) : m_file(std::move(file)) {}
 
     std::size_t size() const { return m_rows.size(); }
     std::string_view Text() const { return m_file.View(); }
@@ -46,7 +46,7 @@ private:
         std::array<std::uint32_t, kFields> begin;
         std::array<std::uint32_t, kFields> size;
     };
-    FileText m_file;
+    BigBuffer m_file;
     std::vector<Spans> m_rows;
 };
 

@@ -2,7 +2,6 @@
 
 #include <QFontDatabase>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace coinlight {
@@ -34,14 +33,15 @@ SoftwarePanel::SoftwarePanel(QWidget* parent) : QWidget(parent) {
     m_slotsLink->setToolTip(
         QStringLiteral("The Slots Of The Selected Machine, As MAME Lists Them"));
 
-    auto* controls = new QHBoxLayout;
-    for (QWidget* control :
-         {static_cast<QWidget*>(m_options[0]), static_cast<QWidget*>(m_options[1]),
-          static_cast<QWidget*>(m_runNoSoftware), static_cast<QWidget*>(m_stringEdit)}) {
-        controls->addWidget(control);
-    }
-    controls->addStretch();
-    controls->addWidget(m_slotsLink);
+    // Two short rows rather than one long one: the panel shares the window's width with the
+    // list above it, and the window must fit a small screen.
+    auto* controls = new QGridLayout;
+    controls->addWidget(m_options[0], 0, 0);
+    controls->addWidget(m_options[1], 0, 1);
+    controls->addWidget(m_slotsLink, 0, 3, Qt::AlignRight);
+    controls->addWidget(m_runNoSoftware, 1, 0);
+    controls->addWidget(m_stringEdit, 1, 1);
+    controls->setColumnStretch(2, 1);
 
     m_tabs = Named(new QTabWidget(this), "tabSoftware");
     m_tabs->setDocumentMode(true);
