@@ -25,12 +25,13 @@ SoftwareListView::SoftwareListView(QWidget* parent) : QTreeView(parent) {
         setColumnWidth(column, columns[static_cast<std::size_t>(column)].twips / kTwipsPerPixel);
     }
     connect(header(), &QHeaderView::sectionClicked, this, &SoftwareListView::ColumnClicked);
-    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& current) {
-                if (current.isValid()) {
-                    emit RowSelected(current.row());
-                }
-            });
+    // On the selection, not the current row: a click makes a row current before it selects
+    // it, and a start asks for the selected row.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (const int row = SelectedRow(); row >= 0) {
+            emit RowSelected(row);
+        }
+    });
     // A double click, not `activated`: some desktops activate on a single click, and a
     // single click here must never start the emulator.
     connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {

@@ -44,6 +44,7 @@ void SoftwarePanelFixture::ShowOther(const std::string& machine) {
     MachineListView& other = *Controls().lvOther;
     other.SelectRow(other.Model().RowOfShortName(machine));
     Form().ViewOther();
+    Form().show();
     ASSERT_EQ(other.SelectedMachine()->ShortName(), machine);
 }
 
@@ -56,7 +57,12 @@ void SoftwarePanelFixture::SelectTitle(const std::string& name) {
     const SoftwareListModel& model = Software().Model();
     for (int row = 0; row < model.rowCount(); ++row) {
         if (model.Text(row, SoftwareListModel::ShortName) == name) {
-            Software().SelectRow(row);
+            // Clicked as a user clicks it: the row becomes current before it is selected.
+            const QModelIndex index = model.index(row, 0);
+            Software().scrollTo(index);
+            QTest::mouseClick(Software().viewport(), Qt::LeftButton, {},
+                              Software().visualRect(index).center());
+            EXPECT_EQ(Software().SelectedRow(), row) << name;
             return;
         }
     }
