@@ -28,7 +28,8 @@ void frmMain::ConnectFavoritesControls() {
             if (!index.isValid()) {
                 return;
             }
-            list->SelectRow(index.row());
+            // The row under the pointer, without scrolling it away from the pointer.
+            list->setCurrentIndex(index);
             PrepareListMenu(*list);
             m_controls.mnuRClick->popup(list->viewport()->mapToGlobal(at));
         });
