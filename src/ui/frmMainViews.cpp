@@ -255,10 +255,19 @@ void frmMain::ReturnList1() {
     c.cmdExit->setText(QStringLiteral("E&xit"));
     c.cmdExit->setToolTip(QStringLiteral("Closes Coinlight"));
     MachineListView* list = ListOfView();
+    // A report page took the form's commands away (DisableFormButtons): they come back.
+    if (list != c.lvUnavailable) {
+        UpdateCommandSet();
+    }
+    c.cmdFind->setEnabled(true);
+    c.lblBLinks[LinkFind]->setEnabled(true);
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
     SetStartCommands(list != c.lvUnavailable && list->Model().rowCount() != 0);
+    if (m_inOtherView) {
+        UpdateStartControls(); // a red row stays unstartable
+    }
 }
 
 void frmMain::ReturnList2() {

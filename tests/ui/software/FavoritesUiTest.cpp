@@ -88,8 +88,11 @@ TEST_F(FavoritesUiTest, TheChangesReportIsShownOrSaidMissing) {
     EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraVerify);
     EXPECT_EQ(Controls().fraVerify->title(), "Favorite Other Machine Changes");
     EXPECT_TRUE(Controls().rtfVerify->toPlainText().endsWith("gone1\ngone2\n"));
+    EXPECT_FALSE(Controls().cmdFind->isEnabled()) << "the report page takes the commands away";
     Form().ReturnList1();
     EXPECT_EQ(Controls().pages->currentWidget(), Controls().fraList);
+    EXPECT_TRUE(Controls().cmdFind->isEnabled()) << "and the list gives them back";
+    EXPECT_TRUE(Controls().cmdStart->isEnabled());
 }
 
 TEST_F(FavoritesUiTest, NoFavouritesListSaysSoAndUnticks) {

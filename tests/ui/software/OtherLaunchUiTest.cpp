@@ -131,6 +131,9 @@ TEST_F(OtherLaunchUiTest, ARedMachineIsRefusedAndThePreviewShowsOtherCfg) {
     ShowOther("redbox");
     Form().PlayOther();
     EXPECT_EQ(m_prompter.Texts().back(), "This ROM is unavailable.");
+    Controls().cmdFind->click();
+    Form().ReturnList1();
+    EXPECT_FALSE(Controls().cmdStart->isEnabled()) << "back from the preview, still unstartable";
 
     SelectMachine("a2600");
     StandStill();
