@@ -1,4 +1,8 @@
 // The software panel beside the Other Machines list: when it loads, what it shows.
+#include <QAbstractButton>
+#include <QDir>
+#include <QLineEdit>
+
 #include "SoftwarePanelFixture.h"
 
 namespace coinlight::test {
@@ -102,10 +106,28 @@ TEST_F(SoftwarePanelTest, RefreshSoftwareMeasuresAvailabilityAgain) {
 TEST_F(SoftwarePanelTest, ANewSoftwareFolderInOptionsThrowsEveryFileAway) {
     ShowOther("a2600");
     WriteFile(SoftFile("cpc464"), "");
-    Form().KillSoftsOther({});
-    EXPECT_FALSE(FileExists(SoftFile("a2600")));
-    EXPECT_FALSE(FileExists(SoftFile("cpc464")));
-    EXPECT_EQ(Titles().size(), 2u) << "with no name nothing is loaded again";
+    const auto elsewhere = m_folder / "more software";
+    WriteFile(elsewhere / "a2600" / "adventur.zip", "zip");
+    AnswerDialog([&](QDialog& dialog) {
+        const auto fill = [&dialog](const char* name, const QString& text) {
+            dialog.findChild<QLineEdit*>(QString::fromLatin1(name))->setText(text);
+        };
+        for (const char* name : {"txtSamPath", "txtArtworkPath", "txtCtrlrPath", "txtCheatPath",
+                                 "txtPluginsPath", "txtLanguagePath"}) {
+            fill(name, QDir::tempPath());
+        }
+        fill("txtMESSSoftwarePath", QString::fromStdString(elsewhere.string()));
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdNext"))->click();
+        dialog.findChild<QAbstractButton*>(QStringLiteral("cmdOK"))->click();
+        if (dialog.isVisible()) {
+            ADD_FAILURE() << "Options refused: " << Told();
+            dialog.reject();
+        }
+    });
+    Form().Options();
+    EXPECT_FALSE(FileExists(SoftFile("cpc464"))) << "every machine's file went";
+    Form().ViewOther();
+    EXPECT_EQ(Titles(), std::vector<std::string>{"adventur"}) << "measured in the new folder";
 }
 
 TEST_F(SoftwarePanelTest, AFileCutOffMidRecordShowsTheRowsBeforeAndSaysSo) {
