@@ -8,7 +8,7 @@ cd "$(dirname "$0")"
 
 mode=${1:-run}
 packages=(build-essential cmake pkg-config qt6-base-dev libarchive-dev libgtest-dev
-          libgmock-dev fonts-dejavu-core mame ccache)
+          libgmock-dev fonts-dejavu-core mame mame-doc ccache)
 case "$mode" in
   fuzz) packages+=(clang libclang-rt-14-dev) ;;
 esac

@@ -21,6 +21,8 @@ int ToolUsageError(const ToolCommand& command);
 std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
+std::vector<ToolCommand> InfoCommands();
+std::vector<ToolCommand> RebuildCommands();
 std::vector<ToolCommand> OtherLaunchCommands();
 
 } // namespace coinlight

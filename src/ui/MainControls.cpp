@@ -7,6 +7,9 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "info/InfoSourceList.h"
+#include "info/SnapshotPane.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -45,6 +48,7 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
 void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
+    c.mnuMainInfo = AddAction(main, "mnuMainInfo", QStringLiteral("Information"));
     c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
 
     c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
@@ -66,12 +70,47 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
 
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
+    c.mnuTools = tools;
+    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
+    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
+    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
+    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
+    // The report belongs to the reports menu once there is one.
+    c.mnuReportsRebuild =
+        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
+    tools->addSeparator();
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
 }
 
+/// The menu of that name, made at the end of the bar unless another part made it first.
+QMenu* MenuNamed(QMainWindow& window, const char* name, const QString& title) {
+    for (QAction* action : window.menuBar()->actions()) {
+        if (action->menu() != nullptr && action->menu()->objectName() == QLatin1String(name)) {
+            return action->menu();
+        }
+    }
+    QMenu* menu = window.menuBar()->addMenu(title);
+    menu->setObjectName(QString::fromLatin1(name));
+    return menu;
+}
+
+void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
+    QMenu* reports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsUnlistedMachines =
+        AddAction(reports, "mnuReportsUnlistedMachines", QStringLiteral("Unlisted Machines"));
+    QMenu* help = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
+    c.mnuHelpHeritage = AddAction(help, "mnuHelpHeritage", QStringLiteral("Coinlight Info"));
+    c.mnuHelpCommandLines =
+        AddAction(help, "mnuHelpCommandLines", QStringLiteral("MAME Command-Line Options"));
+    c.mnuHelpDefaultKeys =
+        AddAction(help, "mnuHelpDefaultKeys", QStringLiteral("MAME Default Keys"));
+    c.mnuHelpBGFX = AddAction(help, "mnuHelpBGFX", QStringLiteral("MAME BGFX"));
+    c.mnuHelpHLSL = AddAction(help, "mnuHelpHLSL", QStringLiteral("MAME HLSL"));
+    c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
+}
+
 void BuildReportsMenu(QMainWindow& window, MainControls& c) {
-    c.mnuReports = window.menuBar()->addMenu(QStringLiteral("&Reports"));
-    c.mnuReports->setObjectName(QStringLiteral("mnuReports"));
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
     c.mnuReportsFavoriteArcadeChanges =
         AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
                   QStringLiteral("Favorite Arcade Machine Changes"));
@@ -115,8 +154,19 @@ QWidget* BuildListFrame(MainControls& c) {
                           static_cast<QWidget*>(c.lvUnavailable), c.otherPage}) {
         c.lists->addWidget(list);
     }
-    layout->addWidget(c.lists);
+    layout->addWidget(c.lists, 1);
+    c.picShots = new SnapshotPane;
+    c.lblShots = c.picShots->MissingText();
+    c.picShots->hide();
+    layout->addWidget(c.picShots, 1);
     return c.fraList;
+}
+
+QLayout* SideBySide(QWidget* main, QWidget* side) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(main, 1);
+    row->addWidget(side);
+    return row;
 }
 
 QWidget* BuildVerifyFrame(MainControls& c) {
@@ -125,7 +175,8 @@ QWidget* BuildVerifyFrame(MainControls& c) {
     c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
     c.rtfVerify->setOpenExternalLinks(false);
     c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
-    layout->addWidget(c.rtfVerify);
+    c.lstInfo = new InfoSourceList;           // moves with the report page
+    layout->addLayout(SideBySide(c.rtfVerify, c.lstInfo));
     auto* commands = new QHBoxLayout;
     c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
                               QStringLiteral("Returns To The Machine List"));
@@ -206,14 +257,28 @@ QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
     return row;
 }
 
+QWidget* BuildCabinetRow(MainControls& c) {
+    // Its own height whether or not the machine has an icon: the commands below stay put.
+    auto* cabinet = Named(new QWidget, QStringLiteral("picCabinet"));
+    cabinet->setFixedHeight(34);
+    auto* row = new QHBoxLayout(cabinet);
+    row->setContentsMargins(0, 0, 0, 0);
+    c.picIcon = Named(new QLabel, QStringLiteral("picIcon"));
+    c.picIcon->setFixedSize(32, 32);
+    c.picIcon->hide();
+    c.lblArtwork = Named(new QLabel(QStringLiteral("Artwork")), QStringLiteral("lblArtwork"));
+    c.lblArtwork->setToolTip(QStringLiteral("This Machine Has An Artwork File"));
+    c.lblArtwork->hide();
+    row->addWidget(c.picIcon);
+    row->addWidget(c.lblArtwork);
+    row->addStretch();
+    return cabinet;
+}
+
 QWidget* BuildSideColumn(MainControls& c) {
     auto* side = Named(new QWidget, QStringLiteral("picSide"));
     auto* layout = new QVBoxLayout(side);
-    c.lblShots = Named(new QLabel, QStringLiteral("lblShots"));
-    c.lblShots->setWordWrap(true);
-    c.lblShots->setAlignment(Qt::AlignCenter);
-    c.lblShots->hide();
-    layout->addWidget(c.lblShots);
+    layout->addWidget(BuildCabinetRow(c));
     c.cmdArcadeSettings = AddButton(side, "cmdArcadeSettings", QStringLiteral("Arcade Settings"),
                                     QStringLiteral("Settings For Arcade Machines"));
     c.cmdOtherSettings = AddButton(side, "cmdOtherSettings", QStringLiteral("Other Settings"),
@@ -225,6 +290,10 @@ QWidget* BuildSideColumn(MainControls& c) {
         AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
     layout->addWidget(c.cmdArcadeSettings);
     layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
+    c.cboSettings = Named(new QComboBox(side), QStringLiteral("cboSettings"));
+    c.cboSettings->setToolTip(QStringLiteral("The Class Of Machines These Settings Are For"));
+    c.cboSettings->hide();
+    layout->addWidget(c.cboSettings);
     layout->addWidget(c.cmdOtherSettings);
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
@@ -248,6 +317,7 @@ void SetLinkText(LinkLabel* link, const QString& text) {
 MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
     BuildMenus(window, c);
+    BuildDocumentMenus(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);
@@ -255,7 +325,10 @@ MainControls BuildMainControls(QMainWindow& window) {
     auto* left = new QVBoxLayout;
 
     c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
-    c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
+    c.fraDefaults = new SettingsPage;
+    for (auto [index, link] : c.fraDefaults->MainLinks()) {
+        c.lblBLinks[static_cast<std::size_t>(index)] = link;
+    }
     c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -18,7 +19,10 @@ class QMainWindow;
 
 namespace coinlight {
 
+class InfoSourceList;
 class MachineListView;
+class SnapshotPane;
+class SettingsPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -29,7 +33,16 @@ enum LinkIndex : int {
     LinkStart = 4,
     LinkAudit = 5,
     LinkInfo = 6,
+    LinkOK = 7,
+    LinkRestore = 8,
+    LinkCancel = 9,
     LinkReturnList1 = 11,
+    LinkHLSLPath = 19,
+    LinkHLSLDefaults = 20,
+    LinkYIQDefaults = 21,
+    LinkVectorPostDefaults = 22,
+    LinkBloomPostDefaults = 23,
+    LinkBGFXPath = 24,
     LinkListSlots = 25,
     kLinkCount = 26,
 };
@@ -48,6 +61,13 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainInfo = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuToolsArcade = nullptr;
+    QAction* mnuToolsOther = nullptr;
+    QAction* mnuToolsCustom = nullptr;
+    QAction* mnuToolsRebuild = nullptr;
+    QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Reports menu: the favourites entries
@@ -61,11 +81,20 @@ struct MainControls {
     QAction* mnuRemoveFavorite = nullptr;
     QAction* mnuRefreshSoftware = nullptr;
 
+    // Reports and Help menus: the documents
+    QAction* mnuReportsUnlistedMachines = nullptr;
+    QAction* mnuHelpHeritage = nullptr;
+    QAction* mnuHelpCommandLines = nullptr;
+    QAction* mnuHelpDefaultKeys = nullptr;
+    QAction* mnuHelpBGFX = nullptr;
+    QAction* mnuHelpHLSL = nullptr;
+    QAction* mnuHelpGLSL = nullptr;
+
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
-    QGroupBox* fraDefaults = nullptr;
+    SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
@@ -82,6 +111,12 @@ struct MainControls {
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
+    InfoSourceList* lstInfo = nullptr;
+
+    // The snapshot under the lists, the cabinet icon and the artwork sign beside them
+    SnapshotPane* picShots = nullptr;
+    QLabel* picIcon = nullptr;
+    QLabel* lblArtwork = nullptr;
 
     // Details strip and commands
     std::array<QLabel*, 7> lblPanel{};
@@ -90,6 +125,7 @@ struct MainControls {
     QPushButton* cmdInfo = nullptr;
     QPushButton* cmdArcadeSettings = nullptr;
     QPushButton* cmdOtherSettings = nullptr;
+    QComboBox* cboSettings = nullptr; // the class profile of an arcade settings screen
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;
@@ -102,7 +138,7 @@ struct MainControls {
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;
+    QLabel* lblShots = nullptr;     // in picShots
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

@@ -15,6 +15,7 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -45,7 +46,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
-    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
     for (auto [box, which] :
@@ -83,6 +84,7 @@ void frmMain::ConnectControls() {
             ShowDetails(*list);
         });
     }
+    ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
@@ -91,12 +93,51 @@ void frmMain::ConnectControls() {
     });
     ConnectSoftwareControls();
     ConnectFavoritesControls();
+    ConnectInformation();
 }
 
 void frmMain::LinkClicked(int index) {
     switch (index) {
+    case LinkArcadeSettings:
+        SettingsArcade();
+        break;
+    case LinkOtherSettings:
+        SettingsOther();
+        break;
     case LinkExit:
-        close();
+        // On a settings screen the command reads Cancel and leaves the screen.
+        if (SettingsScreenOpen()) {
+            Cancel();
+        } else {
+            close();
+        }
+        break;
+    case LinkOK:
+        OK();
+        break;
+    case LinkRestore:
+        Restore();
+        break;
+    case LinkCancel:
+        Cancel();
+        break;
+    case LinkHLSLPath:
+        HLSLPath();
+        break;
+    case LinkHLSLDefaults:
+        SetDefaultsOf(DefaultsGroup::HLSL);
+        break;
+    case LinkYIQDefaults:
+        SetDefaultsOf(DefaultsGroup::YIQ);
+        break;
+    case LinkVectorPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Vector);
+        break;
+    case LinkBloomPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Bloom);
+        break;
+    case LinkBGFXPath:
+        BGFXPath();
         break;
     case LinkStart:
         if (m_inOtherView) {
@@ -110,6 +151,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkInfo:
+        Info();
         break;
     case LinkListSlots:
         ListSlots();
@@ -246,10 +290,8 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 bool frmMain::HasCommand(int link) const {
-    // The settings screens, the audit and the information panel are not built yet: their
-    // buttons and links stay out of sight until they are.
-    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkAudit &&
-           link != LinkInfo;
+    // The audit is not built yet: its buttons and links stay out of sight until it is.
+    return link != LinkAudit;
 }
 
 void frmMain::SetStartCommands(bool enabled) {
@@ -322,6 +364,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     QWidget* page = m_controls.pages->currentWidget();
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
+    } else if (page == m_controls.fraDefaults) {
+        OK();
     } else if (page == m_controls.fraVerify) {
         ReturnList1();
     } else if (page == m_controls.fraMaintenance) {

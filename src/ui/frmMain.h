@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,12 +12,17 @@
 #include "MainControls.h"
 #include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "info/DocumentViewers.h"
+#include "info/InfoSelection.h"
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
 #include "settings/MameIniBase.h"
+#include "settings/ProfileSave.h"
+#include "settings/SettingsOk.h"
+#include "settings/SettingsScreens.h"
 #include "settings/StartBoxes.h"
 
 namespace coinlight {
@@ -82,6 +88,35 @@ public:
     void KillSoftsOther(const std::string& machine);
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
+
+    // Information, pictures and documents
+    void Info();
+    void ViewShots();
+    void LoadSnapshot();
+    void LoadCabinetIcon();
+    void MAMECommandLines();
+    void MAMEDefaultKeys();
+    void MAMEBGFX();
+    void MAMEGLSL();
+    void MAMEHLSL();
+    void Heritage();
+    void Unlisted();
+
+    /// Where MAME's installed manual is looked for, and how an address is opened in the
+    /// desktop's browser (tests point both elsewhere).
+    void SetMameManual(std::filesystem::path manual) { m_mameManual = std::move(manual); }
+    void SetAddressOpener(std::function<bool(const QString&)> open) {
+        m_openAddress = std::move(open);
+    }
+    // Settings screens
+    void SettingsArcade();
+    void SettingsOther();
+    void CustomSettings();
+    void OK();
+    void Cancel();
+    void Restore();
+    void RebuildSettings();
+    void RebuildReport();
 
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
@@ -184,6 +219,46 @@ private:
     void ConnectFavoritesControls();
     void PrepareListMenu(MachineListView& list);
     void PurgeBeforeViewing(const std::string& word);
+
+    // Information's steps
+    void ConnectInformation();
+    void InfoSourceClicked(const QString& source);
+    InfoSelection CurrentInfoSelection() const;
+    void SetReturnCommands(bool enabled);
+    void ShowShotsPane(bool open);
+    void LayOutShots();
+    void ShowDocument(DocumentViewer viewer);
+    /// The one document viewer. `afterStart`: the output of a start, whose details strip and
+    /// scrolling line keep what the start left there.
+    void ShowTextPage(const QString& caption, const std::string& text, bool afterStart = false);
+    // Settings screens' steps
+    void ConnectSettingsControls();
+    void DefineCombos();
+    void LoadcboBIOS();
+    void ChooseProfileName();
+    void cboSettingsClicked();
+    void RasterSettings();
+    void VectorSettings();
+    void LCDSettings();
+    void ShowSettingsScreen(SettingsScreen screen);
+    void LoadControls();
+    void ShowRuleFailures(const std::vector<UserMessage>& failures);
+    /// Disables what a page over the lists must not be used with; a settings screen also
+    /// turns Exit into Cancel.
+    void CoverCommands(bool settingsScreen);
+    void UncoverCommands();
+    void LeaveSettings();
+    bool SettingsScreenOpen() const;
+    void UpdateSettingsMenu();
+    void SetDefaultsOf(DefaultsGroup group);
+    void BGFXPath();
+    void HLSLPath();
+    void ShaderFolder(const char* what, const char* control);
+    void GLSLShader(int index);
+    void SelectControllerMap();
+    void ShowRebuildText(const QString& caption, const std::string& text);
+    SettingsScreenFacts ScreenFacts() const;
+
     // Form state
     void ShowArcadeView(MachineListView& list, const char* viewText, QAction* menuEntry);
     void SetFrameCaption(const QString& view);
@@ -225,7 +300,15 @@ private:
     std::vector<std::string> m_softwareFolders;
     std::string m_profileName;                  // the class profile in force (ProfileName)
     std::string m_commandString;                // "Other Commands", then the last command line
-    std::filesystem::path m_currentProfilePath; // the profile a start last built into mame.ini
+    std::string m_displayType;                  // of the machine a settings screen opened for
+    std::string m_selectedMachine;              // likewise
+    std::filesystem::path m_currentProfilePath; // the profile the last load or save used
+    struct CoveredCommand {
+        QWidget* widget;
+        bool enabled;
+        bool visible;
+    };
+    std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
     std::string m_softwareMachine;              // whose software the panel shows
     int m_softwareAvailable = 0;                // iSoftwareA
     int m_softwareUnavailable = 0;              // iSoftwareU
@@ -237,6 +320,9 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+    bool m_shotsOn = false; // ShotsOn: the snapshot pane is open
+    std::filesystem::path m_mameManual = DebianManual();
+    std::function<bool(const QString&)> m_openAddress;
 };
 
 } // namespace coinlight

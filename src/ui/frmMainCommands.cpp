@@ -235,10 +235,7 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
-    m_controls.rtfVerify->setPlainText(
-        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    ShowPage(m_controls.fraVerify);
+    ShowTextPage(QStringLiteral("MAME Error Output"), text, true);
 }
 
 void frmMain::Find() {

@@ -198,7 +198,6 @@ bool frmMain::ReadBranch(bool& startOver) {
     }
     preferences.mame.mameExeSize = m_currentMameSize;
     m_controls.mnuViewShots->setChecked(preferences.view.snapshots);
-    m_controls.mnuViewShots->setEnabled(false); // the snapshot pane is not built yet
     m_controls.mnuViewArcadeFavorites->setChecked(preferences.view.favoriteArcade);
     m_controls.mnuViewOtherFavorites->setChecked(preferences.view.favoriteOther);
     return true;

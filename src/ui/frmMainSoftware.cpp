@@ -67,6 +67,7 @@ void frmMain::SoftwareTimerTick() {
 
 void frmMain::ClearSoftwareStuff() {
     m_controls.lvSoftware->Model().Clear();
+    LoadSnapshot(); // the picture of a title no longer listed goes
     m_softwareAvailable = 0;
     m_softwareUnavailable = 0;
     m_controls.lblPanel[1]->clear();
@@ -197,6 +198,7 @@ void frmMain::SoftwareItemClick() {
                            m_context.data.Settings(), c.lblPanel[6]->text().toStdString()));
     const std::string_view title = c.lvSoftware->Model().Text(row, SoftwareListModel::Description);
     c.lblPanel[1]->setText(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())));
+    LoadSnapshot();
 }
 
 void frmMain::SoftwareDoubleClick() {

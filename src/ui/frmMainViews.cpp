@@ -4,6 +4,7 @@
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "frmMain.h"
+#include "info/InfoSourceList.h"
 
 namespace coinlight {
 
@@ -82,6 +83,8 @@ void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
     MachineListModel& model = list.Model();
     if (model.rowCount() == 0) {
         PanelClearSoftware();
+        LoadSnapshot();
+        LoadCabinetIcon();
         return;
     }
     if (model.SortKey() != saved.sortKey || model.SortOrder() != saved.sortOrder) {
@@ -229,6 +232,8 @@ void frmMain::ShowDetails(MachineListView& list) {
     ApplyDetails(DetailsOf(*row, DetailsSourceOf(list, *row),
                            m_context.preferences.other.mergedRomSets, m_arcadeRomFolders,
                            m_context.data.Settings(), current));
+    LoadSnapshot();
+    LoadCabinetIcon();
 }
 
 void frmMain::ApplyDetails(const SelectionDetails& details) {
@@ -246,6 +251,7 @@ void frmMain::ApplyDetails(const SelectionDetails& details) {
 void frmMain::ReturnList1() {
     const MainControls& c = m_controls;
     ShowPage(c.fraList);
+    c.lstInfo->Retire();
     c.rtfVerify->clear();
     c.cmdFind->setText(QStringLiteral("&MAME.Ini"));
     c.cmdFind->setToolTip(
@@ -255,12 +261,12 @@ void frmMain::ReturnList1() {
     c.cmdExit->setText(QStringLiteral("E&xit"));
     c.cmdExit->setToolTip(QStringLiteral("Closes Coinlight"));
     MachineListView* list = ListOfView();
-    // A report page took the form's commands away (DisableFormButtons): they come back.
-    if (list != c.lvUnavailable) {
-        UpdateCommandSet();
-    }
-    c.cmdFind->setEnabled(true);
-    c.lblBLinks[LinkFind]->setEnabled(true);
+    // A text page empties the strip and disables the settings commands: the end of the list
+    // set-up brings both back.
+    c.lblPanel[0]->setText(QStringLiteral("Machines: ") +
+                           QString::number(list->Model().rowCount()));
+    UpdateCommandSet();
+    SetFamilyCheckBoxes(!m_inOtherView && list != c.lvUnavailable);
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
@@ -272,6 +278,7 @@ void frmMain::ReturnList1() {
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    LoadSnapshot();
 }
 
 } // namespace coinlight
