@@ -23,5 +23,6 @@ std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
 std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
+std::vector<ToolCommand> OtherLaunchCommands();
 
 } // namespace coinlight

@@ -109,6 +109,28 @@ void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
     c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
 }
 
+void BuildReportsMenu(QMainWindow& window, MainControls& c) {
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsFavoriteArcadeChanges =
+        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
+                  QStringLiteral("Favorite Arcade Machine Changes"));
+    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
+                                                 QStringLiteral("Favorite Other Machine Changes"));
+}
+
+void BuildListMenu(QMainWindow& window, MainControls& c) {
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
+    c.mnuRemoveFavorite =
+        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
+    c.mnuRefreshSoftware =
+        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
+}
+
 QWidget* BuildListFrame(MainControls& c) {
     c.fraList =
         Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
@@ -119,10 +141,12 @@ QWidget* BuildListFrame(MainControls& c) {
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -274,9 +298,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
     c.lblVersion->setAlignment(Qt::AlignCenter);
@@ -334,6 +355,8 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildReportsMenu(window, c);
+    BuildListMenu(window, c);
     return c;
 }
 

@@ -13,6 +13,7 @@
 #include <QTextBrowser>
 
 #include "LinkLabel.h"
+#include "software/SoftwarePanel.h"
 
 class QMainWindow;
 
@@ -42,7 +43,8 @@ enum LinkIndex : int {
     LinkVectorPostDefaults = 22,
     LinkBloomPostDefaults = 23,
     LinkBGFXPath = 24,
-    kLinkCount = 25,
+    LinkListSlots = 25,
+    kLinkCount = 26,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -67,6 +69,17 @@ struct MainControls {
     QAction* mnuToolsRebuild = nullptr;
     QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
+
+    // Reports menu: the favourites entries
+    QMenu* mnuReports = nullptr;
+    QAction* mnuReportsFavoriteArcadeChanges = nullptr;
+    QAction* mnuReportsFavoriteOtherChanges = nullptr;
+
+    // The lists' right-click menu
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuAddFavorite = nullptr;
+    QAction* mnuRemoveFavorite = nullptr;
+    QAction* mnuRefreshSoftware = nullptr;
 
     // Reports and Help menus: the documents
     QAction* mnuReportsUnlistedMachines = nullptr;
@@ -93,7 +106,8 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    MachineListView* lvSoftware = nullptr;
+    SoftwarePanel* picSoftware = nullptr; // beside lvOther
+    SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
@@ -120,7 +134,6 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
-    QWidget* picSoftware = nullptr;
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took

@@ -19,6 +19,7 @@
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "settings/MameIniBase.h"
 #include "settings/ProfileSave.h"
 #include "settings/SettingsOk.h"
 #include "settings/SettingsScreens.h"
@@ -72,6 +73,19 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
+    /// The slot listing of the selected other machine, asked of MAME once per run.
+    void ListSlots();
+
+    // Favourites
+    void AddFavorite();
+    void RemoveFavorite();
+    /// `fileName`: "arcadefavschanges.txt" or "otherfavschanges.txt".
+    void FavoriteChanges(const std::string& fileName);
+
+    // Software of other machines
+    /// Throws the software file of `machine` away and loads the panel anew; with an empty
+    /// name throws every machine's file away and does nothing else.
+    void KillSoftsOther(const std::string& machine);
     /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
     void Find();
 
@@ -183,6 +197,29 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // The software panel's steps
+    void ConnectSoftwareControls();
+    void OtherItemClick();
+    void SoftwareTimerTick();
+    void ClearSoftwareStuff();
+    void LoadSoftwareLists();
+    void FinishSoftwareLoad();
+    void LoadListsSoftware(const std::string& machine);
+    void SoftwareOptionClicked();
+    void SoftwareColumnClicked(int column);
+    void SoftwareItemClick();
+    /// The one place a double click or Enter in lvSoftware goes: a rule that must act
+    /// before the start belongs at its top.
+    void SoftwareDoubleClick();
+    void UpdateSoftwareControls();
+    void UpdateStartControls();
+    void FillSoftwareState(MameIniBase& base) const;
+
+    // Favourites' steps
+    void ConnectFavoritesControls();
+    void PrepareListMenu(MachineListView& list);
+    void PurgeBeforeViewing(const std::string& word);
+
     // Information's steps
     void ConnectInformation();
     void InfoSourceClicked(const QString& source);
@@ -272,6 +309,10 @@ private:
         bool visible;
     };
     std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
+    std::string m_softwareMachine;              // whose software the panel shows
+    int m_softwareAvailable = 0;                // iSoftwareA
+    int m_softwareUnavailable = 0;              // iSoftwareU
+    bool m_skipOtherItemClick = false;          // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
