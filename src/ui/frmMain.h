@@ -309,10 +309,10 @@ private:
         bool visible;
     };
     std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
-    std::string m_softwareMachine;              // whose software the panel shows
-    int m_softwareAvailable = 0;                // iSoftwareA
-    int m_softwareUnavailable = 0;              // iSoftwareU
-    bool m_skipOtherItemClick = false;          // an option click reloads by itself
+    std::string m_softwareMachine;                 // whose software the panel shows
+    int m_softwareAvailable = 0;                   // iSoftwareA
+    int m_softwareUnavailable = 0;                 // iSoftwareU
+    bool m_skipOtherItemClick = false;             // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
