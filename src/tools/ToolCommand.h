@@ -24,5 +24,6 @@ std::vector<ToolCommand> CatalogueCommands();
 std::vector<ToolCommand> ReportCommands();
 std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
+std::vector<ToolCommand> OtherLaunchCommands();
 
 } // namespace coinlight

@@ -112,6 +112,15 @@ void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
     c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
 }
 
+void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsFavoriteArcadeChanges =
+        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
+                  QStringLiteral("Favorite Arcade Machine Changes"));
+    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
+                                                 QStringLiteral("Favorite Other Machine Changes"));
+}
+
 QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
     QMenu* submenu = menu->addMenu(caption);
     submenu->setObjectName(QString::fromLatin1(name));
@@ -132,8 +141,11 @@ void BuildReportMenus(QMainWindow& window, MainControls& c) {
     c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
 
     c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
-    // The reports come first, the documents and the ini after them.
-    c.mnuReports->removeAction(c.mnuReportsUnlistedMachines);
+    // The reports come first, the favourites' changes, the documents and the ini after them.
+    for (QAction* later : {c.mnuReportsFavoriteArcadeChanges, c.mnuReportsFavoriteOtherChanges,
+                           c.mnuReportsUnlistedMachines}) {
+        c.mnuReports->removeAction(later);
+    }
     c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
     c.mnuReportsVerifyROMs =
         AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
@@ -166,16 +178,26 @@ void BuildReportMenus(QMainWindow& window, MainControls& c) {
     // The settings' rebuild report has waited in Tools for this menu.
     c.mnuTools->removeAction(c.mnuReportsRebuild);
     c.mnuReports->addAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsFavoriteArcadeChanges);
+    c.mnuReports->addAction(c.mnuReportsFavoriteOtherChanges);
     c.mnuReports->addAction(c.mnuReportsUnlistedMachines);
     c.mnuReports->addSeparator();
     c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
 
-    c.mnuRClick = new QMenu(&window);
-    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
     c.mnuDeleteROM = AddAction(c.mnuRClick, "mnuDeleteROM", QStringLiteral("Delete ROM"));
     c.mnuDeleteSamples =
         AddAction(c.mnuRClick, "mnuDeleteSamples", QStringLiteral("Delete &Samples"));
-    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvOther}) {
+}
+
+void BuildListMenu(QMainWindow& window, MainControls& c) {
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
+    c.mnuRemoveFavorite =
+        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
+    c.mnuRefreshSoftware =
+        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
         list->setContextMenuPolicy(Qt::CustomContextMenu);
     }
 }
@@ -190,10 +212,12 @@ QWidget* BuildListFrame(MainControls& c) {
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -331,9 +355,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
     c.lblVersion->setAlignment(Qt::AlignCenter);
@@ -392,6 +413,8 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildFavoritesReports(window, c);
+    BuildListMenu(window, c);
     BuildReportMenus(window, c);
     return c;
 }

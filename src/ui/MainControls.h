@@ -13,6 +13,7 @@
 #include <QTextBrowser>
 
 #include "LinkLabel.h"
+#include "software/SoftwarePanel.h"
 
 class QMainWindow;
 
@@ -44,7 +45,8 @@ enum LinkIndex : int {
     LinkVectorPostDefaults = 22,
     LinkBloomPostDefaults = 23,
     LinkBGFXPath = 24,
-    kLinkCount = 25,
+    LinkListSlots = 25,
+    kLinkCount = 26,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -95,6 +97,16 @@ struct MainControls {
     QMenu* mnuRClick = nullptr;
     QAction* mnuDeleteROM = nullptr;
     QAction* mnuDeleteSamples = nullptr;
+
+    // Reports menu: the favourites entries
+    QAction* mnuReportsFavoriteArcadeChanges = nullptr;
+    QAction* mnuReportsFavoriteOtherChanges = nullptr;
+
+    // The lists' right-click menu
+    QAction* mnuAddFavorite = nullptr;
+    QAction* mnuRemoveFavorite = nullptr;
+    QAction* mnuRefreshSoftware = nullptr;
+
     // Reports and Help menus: the documents
     QAction* mnuReportsUnlistedMachines = nullptr;
     QAction* mnuHelpHeritage = nullptr;
@@ -122,7 +134,8 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    MachineListView* lvSoftware = nullptr;
+    SoftwarePanel* picSoftware = nullptr; // beside lvOther
+    SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
@@ -149,7 +162,6 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
-    QWidget* picSoftware = nullptr;
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took

@@ -94,6 +94,8 @@ void frmMain::ConnectControls() {
     connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
         m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
     });
+    ConnectSoftwareControls();
+    ConnectFavoritesControls();
     ConnectInformation();
 }
 
@@ -158,6 +160,9 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkInfo:
         Info();
+        break;
+    case LinkListSlots:
+        ListSlots();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -259,7 +264,6 @@ void frmMain::DisableFormButtons() {
           static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
         control->setEnabled(false);
     }
-    c.picSoftware->hide();
     SetFamilyCheckBoxes(false);
 }
 
@@ -292,8 +296,6 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
 }
 
 void frmMain::SetStartCommands(bool enabled) {
-    // Other machines start from their software panel, which is not built yet.
-    enabled = enabled && !m_inOtherView;
     m_controls.cmdStart->setEnabled(enabled);
     m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
 }

@@ -22,6 +22,7 @@
 #include "reports/MaintenancePlan.h"
 #include "reports/ReportHeading.h"
 #include "reports/VerifyReports.h"
+#include "settings/MameIniBase.h"
 #include "settings/ProfileSave.h"
 #include "settings/SettingsOk.h"
 #include "settings/SettingsScreens.h"
@@ -75,6 +76,19 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
+    /// The slot listing of the selected other machine, asked of MAME once per run.
+    void ListSlots();
+
+    // Favourites
+    void AddFavorite();
+    void RemoveFavorite();
+    /// `fileName`: "arcadefavschanges.txt" or "otherfavschanges.txt".
+    void FavoriteChanges(const std::string& fileName);
+
+    // Software of other machines
+    /// Throws the software file of `machine` away and loads the panel anew; with an empty
+    /// name throws every machine's file away and does nothing else.
+    void KillSoftsOther(const std::string& machine);
     /// By its caption: shows the mame.ini the selected machine would get, lists the bad sets
     /// of a report, or prints the report page.
     void Find();
@@ -231,9 +245,32 @@ private:
     void ShowHeadings(const ReportHeadings& headings);
     void ShowLink(int index, bool shown);
     void UpdateReportMenus();
-    void ShowListMenu(MachineListView& list, const QPoint& at);
+    void PrepareMaintenanceEntries(const MachineListView& list);
     bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
     std::string MaintenanceMachine();
+
+    // The software panel's steps
+    void ConnectSoftwareControls();
+    void OtherItemClick();
+    void SoftwareTimerTick();
+    void ClearSoftwareStuff();
+    void LoadSoftwareLists();
+    void FinishSoftwareLoad();
+    void LoadListsSoftware(const std::string& machine);
+    void SoftwareOptionClicked();
+    void SoftwareColumnClicked(int column);
+    void SoftwareItemClick();
+    /// The one place a double click or Enter in lvSoftware goes: a rule that must act
+    /// before the start belongs at its top.
+    void SoftwareDoubleClick();
+    void UpdateSoftwareControls();
+    void UpdateStartControls();
+    void FillSoftwareState(MameIniBase& base) const;
+
+    // Favourites' steps
+    void ConnectFavoritesControls();
+    void PrepareListMenu(MachineListView& list);
+    void PurgeBeforeViewing(const std::string& word);
 
     // Information's steps
     void ConnectInformation();
@@ -322,6 +359,10 @@ private:
         bool visible;
     };
     std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
+    std::string m_softwareMachine;                 // whose software the panel shows
+    int m_softwareAvailable = 0;                   // iSoftwareA
+    int m_softwareUnavailable = 0;                 // iSoftwareU
+    bool m_skipOtherItemClick = false;             // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
@@ -329,7 +370,6 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
-    std::string m_softwareMachine;
     bool m_verifyRunning = false;    // MAME verifies; the window waits for it
     bool m_cancelVerify = false;     // the user asked to stop it
     bool m_closeAfterVerify = false; // the window was closed meanwhile

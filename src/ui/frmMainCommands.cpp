@@ -41,6 +41,9 @@ bool frmMain::OpenOptions(bool firstRun) {
         SetLinksOrButtons();
         ApplyListsAppearance();
     }
+    if (outcome.softwarePathChanged) {
+        KillSoftsOther({}); // availability was measured against the old folders
+    }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
     if (outcome.filtersChanged || outcome.pathsChanged) {
@@ -123,6 +126,7 @@ void frmMain::CreateMAMEIni() {
         base.machine = std::string(row->ShortName());
     }
     base.boxes = CurrentStartBoxes();
+    FillSoftwareState(base);
     if (const auto failure = coinlight::CreateMAMEIni(m_context.preferences, base)) {
         ShowMessage(m_prompter, *failure);
         m_context.flags.fatalErrorFlag = true;
@@ -182,7 +186,6 @@ void frmMain::PlayArcade() {
         ShowMessage(m_prompter, *plan.strayIniWarning);
     }
     m_commandString = plan.commandLine;
-
     if (!RunEmulator(m_commandString)) {
         return;
     }
@@ -223,10 +226,6 @@ bool frmMain::RunEmulator(const std::string& commandLine) {
         }
     }
     return true;
-}
-
-void frmMain::PlayOther() {
-    // Starting other machines needs their software panel; until it exists they cannot start.
 }
 
 void frmMain::ShowStandardOutput(const std::string& text) {

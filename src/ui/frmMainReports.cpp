@@ -101,10 +101,6 @@ void frmMain::ConnectReportControls() {
     for (QMenu* menu : {c.mnuMain, c.mnuTools, c.mnuReports}) {
         connect(menu, &QMenu::aboutToShow, this, &frmMain::UpdateReportMenus);
     }
-    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvOther}) {
-        connect(list, &QWidget::customContextMenuRequested, this,
-                [this, list](const QPoint& at) { ShowListMenu(*list, at); });
-    }
     connect(c.verifyPage, &VerifyPage::CancelRequested, this, &frmMain::CancelVerify);
     MaintenancePage* maintenance = c.maintenancePage;
     connect(maintenance, &MaintenancePage::SearchRequested, this, &frmMain::UnneededFileSearch);
@@ -136,13 +132,12 @@ void frmMain::UpdateReportMenus() {
     c.mnuReportsLastMachinesSoftware->setEnabled(onList && m_inOtherView);
 }
 
-void frmMain::ShowListMenu(MachineListView& list, const QPoint& at) {
+void frmMain::PrepareMaintenanceEntries(const MachineListView& list) {
     const MainControls& c = m_controls;
     const bool onList = c.pages->currentWidget() == c.fraList;
     const bool selected = list.SelectedMachine() != nullptr;
     c.mnuDeleteROM->setEnabled(onList && selected);
     c.mnuDeleteSamples->setEnabled(onList && selected && !m_inOtherView);
-    c.mnuRClick->popup(list.viewport()->mapToGlobal(at));
 }
 
 void frmMain::ShowLink(int index, bool shown) {

@@ -89,7 +89,7 @@ TEST_F(MainWindow, EachViewSetsItsCaptionCountTickAndCommands) {
     EXPECT_TRUE(c.cmdOtherSettings->isEnabled());
     EXPECT_TRUE(c.mnuViewOtherMachines->isChecked());
     EXPECT_EQ(c.lvOther->toolTip(), c.lvOther->toolTip());
-    EXPECT_EQ(c.lblPanel[1]->toolTip(), "Software");
+    EXPECT_EQ(c.lblPanel[1]->toolTip(), "Software: 0") << "the titles the software panel loaded";
 
     Form().ViewAllArcade();
     EXPECT_FALSE(Form().InOtherView());
