@@ -21,8 +21,10 @@ namespace coinlight {
 
 class InfoSourceList;
 class MachineListView;
+class MaintenancePage;
 class SnapshotPane;
 class SettingsPage;
+class VerifyPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -70,13 +72,37 @@ struct MainControls {
     QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
-    // Reports menu: the favourites entries
+    // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
+    // the right-click menu of the lists
+    QMenu* mnuMain = nullptr;
+    QAction* mnuMainAudit = nullptr;
+    QAction* mnuMainExport = nullptr;
+    QAction* mnuToolsMaintenance = nullptr;
     QMenu* mnuReports = nullptr;
+    QMenu* mnuReportsROMs = nullptr;
+    QAction* mnuReportsVerifyROMs = nullptr;
+    QAction* mnuReportsLastROM = nullptr;
+    QMenu* mnuReportsSoftware = nullptr;
+    QAction* mnuReportsVerifyAllSoftware = nullptr;
+    QAction* mnuReportsLastAllSoftware = nullptr;
+    QAction* mnuReportsVerifyMachinesSoftware = nullptr;
+    QAction* mnuReportsLastMachinesSoftware = nullptr;
+    QMenu* mnuReportsSamples = nullptr;
+    QAction* mnuReportsVerifySamples = nullptr;
+    QAction* mnuReportsLastSample = nullptr;
+    QMenu* mnuReportsWhatsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChangedReport = nullptr;
+    QAction* mnuReportsFind = nullptr;
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuDeleteROM = nullptr;
+    QAction* mnuDeleteSamples = nullptr;
+
+    // Reports menu: the favourites entries
     QAction* mnuReportsFavoriteArcadeChanges = nullptr;
     QAction* mnuReportsFavoriteOtherChanges = nullptr;
 
     // The lists' right-click menu
-    QMenu* mnuRClick = nullptr;
     QAction* mnuAddFavorite = nullptr;
     QAction* mnuRemoveFavorite = nullptr;
     QAction* mnuRefreshSoftware = nullptr;
@@ -94,8 +120,10 @@ struct MainControls {
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
+    VerifyPage* verifyPage = nullptr; // fraVerify as the page it is
     SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
+    MaintenancePage* maintenancePage = nullptr; // fraMaintenance as the page it is
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
 

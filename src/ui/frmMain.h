@@ -19,6 +19,9 @@
 #include "lists/SelectionDetails.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "reports/MaintenancePlan.h"
+#include "reports/ReportHeading.h"
+#include "reports/VerifyReports.h"
 #include "settings/MameIniBase.h"
 #include "settings/ProfileSave.h"
 #include "settings/SettingsOk.h"
@@ -86,8 +89,38 @@ public:
     /// Throws the software file of `machine` away and loads the panel anew; with an empty
     /// name throws every machine's file away and does nothing else.
     void KillSoftsOther(const std::string& machine);
-    /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
+    /// By its caption: shows the mame.ini the selected machine would get, lists the bad sets
+    /// of a report, or prints the report page.
     void Find();
+
+    // Audit and reports
+    void Audit();
+    void VerifyROMs();
+    void VerifySamples();
+    /// An empty `lists` means all software; any other value the machine whose software the
+    /// panel loaded last (SetSoftwareMachine).
+    void VerifySoftware(const std::string& lists);
+    void LastROM();
+    void LastSample();
+    void LastSoftware(const std::string& lists);
+    /// Ends a running verification; the page then says it was cancelled.
+    void CancelVerify();
+    void CompareCRCInfos();
+    void WhatROMsChangedReport();
+    void Export();
+    /// The machine whose software was loaded last (SoftwareMachine); the software panel
+    /// keeps it up to date, the software reports read it.
+    void SetSoftwareMachine(std::string machine) { m_softwareMachine = std::move(machine); }
+    const std::string& SoftwareMachine() const { return m_softwareMachine; }
+
+    // Maintenance
+    void Maintenance();
+    void UnneededFileSearch();
+    void UnneededFileRemove();
+    void CleanReports();
+    void CleanOutputDirectories();
+    void DeleteROM();
+    void DeleteSamples();
 
     // Information, pictures and documents
     void Info();
@@ -197,6 +230,25 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Reports' steps
+    void ConnectReportControls();
+    MachineListView* AuditList();
+    void RunVerify(VerifyKind kind);
+    void ShowLastReport(VerifyKind kind);
+    void EnterReportPage(const QString& caption);
+    void ShowReportFile(const std::filesystem::path& file);
+    void OfferBadSets();
+    void LeaveReportPage();
+    void ListBadSets();
+    void PrintReportPage();
+    bool RunMame(const std::string& commandLine, const std::function<bool()>& whileRunning);
+    void ShowHeadings(const ReportHeadings& headings);
+    void ShowLink(int index, bool shown);
+    void UpdateReportMenus();
+    void PrepareMaintenanceEntries(const MachineListView& list);
+    bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
+    std::string MaintenanceMachine();
+
     // The software panel's steps
     void ConnectSoftwareControls();
     void OtherItemClick();
@@ -265,8 +317,6 @@ private:
     void TickView(QAction* entry);
     void UpdateCommandSet();
     void SetStartCommands(bool enabled);
-    /// Whether the command behind a button and its link exists in this build.
-    bool HasCommand(int link) const;
     void SetFamilyCheckBoxes(bool visible);
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);
@@ -320,7 +370,10 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
-    bool m_shotsOn = false; // ShotsOn: the snapshot pane is open
+    bool m_verifyRunning = false;    // MAME verifies; the window waits for it
+    bool m_cancelVerify = false;     // the user asked to stop it
+    bool m_closeAfterVerify = false; // the window was closed meanwhile
+    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
     std::filesystem::path m_mameManual = DebianManual();
     std::function<bool(const QString&)> m_openAddress;
 };

@@ -239,11 +239,15 @@ void frmMain::ShowErrorOutput(const std::string& text) {
 }
 
 void frmMain::Find() {
-    const bool mameIniRole =
-        m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
-        m_controls.lblBLinks[LinkFind]->Caption() == QStringLiteral("MAME.Ini");
-    if (!mameIniRole) {
-        return; // the other roles of this command come with their reports
+    // The caption says the role: the report page turns the button into its own commands.
+    const QString role = m_controls.cmdFind->text();
+    if (role == QStringLiteral("&Print")) {
+        PrintReportPage();
+        return;
+    }
+    if (role != QStringLiteral("&MAME.Ini")) {
+        ListBadSets();
+        return;
     }
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {

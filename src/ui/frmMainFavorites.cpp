@@ -59,6 +59,7 @@ void frmMain::PrepareListMenu(MachineListView& list) {
         &list == m_controls.lvOther && row != nullptr && row->Field(ColSoftwareLists) != "N/A";
     m_controls.mnuRefreshSoftware->setVisible(&list == m_controls.lvOther);
     m_controls.mnuRefreshSoftware->setEnabled(hasSoftware);
+    PrepareMaintenanceEntries(list);
 }
 
 void frmMain::AddFavorite() {

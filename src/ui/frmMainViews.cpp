@@ -278,6 +278,11 @@ void frmMain::ReturnList1() {
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    UncoverCommands();
+    MachineListView* list = ListOfView();
+    if (list->Model().rowCount() != 0) {
+        ShowDetails(*list);
+    }
     LoadSnapshot();
 }
 
