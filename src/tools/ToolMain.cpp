@@ -8,8 +8,8 @@ namespace {
 
 std::vector<ToolCommand> AllCommands() {
     std::vector<ToolCommand> commands;
-    for (auto group :
-         {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands, InfoCommands}) {
+    for (auto group : {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands,
+                       InfoCommands, OtherLaunchCommands, ReportCommands}) {
         for (const auto& command : group()) {
             commands.push_back(command);
         }

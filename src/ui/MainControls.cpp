@@ -10,6 +10,8 @@
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
 #include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
@@ -49,6 +51,7 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
 void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
+    c.mnuMain = main;
     c.mnuMainInfo = AddAction(main, "mnuMainInfo", QStringLiteral("Information"));
     c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
 
@@ -115,6 +118,94 @@ void BuildOnlineMenu(QMainWindow& window, MainControls& c) {
     c.mnuHelp = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
     c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
     c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
+void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsFavoriteArcadeChanges =
+        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
+                  QStringLiteral("Favorite Arcade Machine Changes"));
+    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
+                                                 QStringLiteral("Favorite Other Machine Changes"));
+}
+
+QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
+    QMenu* submenu = menu->addMenu(caption);
+    submenu->setObjectName(QString::fromLatin1(name));
+    return submenu;
+}
+
+/// The entries of the audit, the reports and the maintenance commands on the menus.
+void BuildReportMenus(QMainWindow& window, MainControls& c) {
+    c.mnuMainAudit = new QAction(QStringLiteral("Audit"), c.mnuMain);
+    c.mnuMainAudit->setObjectName(QStringLiteral("mnuMainAudit"));
+    c.mnuMainExport = new QAction(QStringLiteral("Export List"), c.mnuMain);
+    c.mnuMainExport->setObjectName(QStringLiteral("mnuMainExport"));
+    c.mnuMain->insertAction(c.mnuMainInfo, c.mnuMainAudit);
+    c.mnuMain->insertAction(c.mnuMainExit, c.mnuMainExport);
+
+    c.mnuToolsMaintenance = new QAction(QStringLiteral("Maintenance..."), c.mnuTools);
+    c.mnuToolsMaintenance->setObjectName(QStringLiteral("mnuToolsMaintenance"));
+    c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
+
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    // The reports come first, the favourites' changes, the documents and the ini after them.
+    for (QAction* later : {c.mnuReportsFavoriteArcadeChanges, c.mnuReportsFavoriteOtherChanges,
+                           c.mnuReportsUnlistedMachines}) {
+        c.mnuReports->removeAction(later);
+    }
+    c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
+    c.mnuReportsVerifyROMs =
+        AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
+    c.mnuReportsLastROM =
+        AddAction(c.mnuReportsROMs, "mnuReportsLastROM", QStringLiteral("Last ROMs Report"));
+    c.mnuReportsSoftware =
+        AddSubmenu(c.mnuReports, "mnuReportsSoftware", QStringLiteral("Software"));
+    c.mnuReportsVerifyAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsVerifyAllSoftware",
+                                              QStringLiteral("Verify All Software"));
+    c.mnuReportsLastAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsLastAllSoftware",
+                                            QStringLiteral("Last All Software Report"));
+    c.mnuReportsVerifyMachinesSoftware =
+        AddAction(c.mnuReportsSoftware, "mnuReportsVerifyMachinesSoftware",
+                  QStringLiteral("Verify Machine's Software"));
+    c.mnuReportsLastMachinesSoftware = AddAction(
+        c.mnuReportsSoftware, "mnuReportsLastMachinesSoftware",
+        QStringLiteral("Last Machine's Software Report (May Not Be Current Selected Machine)"));
+    c.mnuReportsSamples = AddSubmenu(c.mnuReports, "mnuReportsSamples", QStringLiteral("Samples"));
+    c.mnuReportsVerifySamples = AddAction(c.mnuReportsSamples, "mnuReportsVerifySamples",
+                                          QStringLiteral("Verify All Samples"));
+    c.mnuReportsLastSample = AddAction(c.mnuReportsSamples, "mnuReportsLastSample",
+                                       QStringLiteral("Last Samples Report"));
+    c.mnuReportsWhatsChanged =
+        AddSubmenu(c.mnuReports, "mnuReportsWhatsChanged", QStringLiteral("What's Changed"));
+    c.mnuReportsWhatROMsChanged = AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChanged",
+                                            QStringLiteral("What ROMs Changed"));
+    c.mnuReportsWhatROMsChangedReport =
+        AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChangedReport",
+                  QStringLiteral("Last What ROMs Changed Report"));
+    // The settings' rebuild report has waited in Tools for this menu.
+    c.mnuTools->removeAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsFavoriteArcadeChanges);
+    c.mnuReports->addAction(c.mnuReportsFavoriteOtherChanges);
+    c.mnuReports->addAction(c.mnuReportsUnlistedMachines);
+    c.mnuReports->addSeparator();
+    c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
+
+    c.mnuDeleteROM = AddAction(c.mnuRClick, "mnuDeleteROM", QStringLiteral("Delete ROM"));
+    c.mnuDeleteSamples =
+        AddAction(c.mnuRClick, "mnuDeleteSamples", QStringLiteral("Delete &Samples"));
+}
+
+void BuildListMenu(QMainWindow& window, MainControls& c) {
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
+    c.mnuRemoveFavorite =
+        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
+    c.mnuRefreshSoftware =
+        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
 }
 
 QWidget* BuildListFrame(MainControls& c) {
@@ -127,10 +218,12 @@ QWidget* BuildListFrame(MainControls& c) {
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -146,28 +239,14 @@ QWidget* BuildListFrame(MainControls& c) {
     return c.fraList;
 }
 
-QLayout* SideBySide(QWidget* main, QWidget* side) {
-    auto* row = new QHBoxLayout;
-    row->addWidget(main, 1);
-    row->addWidget(side);
-    return row;
-}
-
 QWidget* BuildVerifyFrame(MainControls& c) {
-    c.fraVerify = Named(new QGroupBox, QStringLiteral("fraVerify"));
-    auto* layout = new QVBoxLayout(c.fraVerify);
-    c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
-    c.rtfVerify->setOpenExternalLinks(false);
-    c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
-    c.lstInfo = new InfoSourceList;           // moves with the report page
-    layout->addLayout(SideBySide(c.rtfVerify, c.lstInfo));
-    auto* commands = new QHBoxLayout;
-    c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
-                              QStringLiteral("Returns To The Machine List"));
-    commands->addWidget(c.cmdGameList);
-    commands->addWidget(AddLink(c.fraVerify, c, LinkReturnList1, QStringLiteral("Return")));
-    commands->addStretch();
-    layout->addLayout(commands);
+    c.verifyPage = new VerifyPage;
+    c.fraVerify = c.verifyPage;
+    c.rtfVerify = c.verifyPage->Report();
+    c.cmdGameList = c.verifyPage->ReturnButton();
+    c.lblBLinks[LinkReturnList1] = c.verifyPage->ReturnLink();
+    c.lstInfo = new InfoSourceList; // moves with the report page
+    c.verifyPage->SetSidePanel(c.lstInfo);
     return c.fraVerify;
 }
 
@@ -282,9 +361,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
     c.lblVersion->setAlignment(Qt::AlignCenter);
@@ -317,7 +393,8 @@ MainControls BuildMainControls(QMainWindow& window) {
     for (auto [index, link] : c.fraDefaults->MainLinks()) {
         c.lblBLinks[static_cast<std::size_t>(index)] = link;
     }
-    c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
+    c.maintenancePage = new MaintenancePage;
+    c.fraMaintenance = c.maintenancePage;
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),
           static_cast<QWidget*>(c.fraMaintenance), BuildPleaseWait(c)}) {
@@ -346,6 +423,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildFavoritesReports(window, c);
+    BuildListMenu(window, c);
+    BuildReportMenus(window, c);
     return c;
 }
 

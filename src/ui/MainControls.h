@@ -13,6 +13,7 @@
 #include <QTextBrowser>
 
 #include "LinkLabel.h"
+#include "software/SoftwarePanel.h"
 
 class QMainWindow;
 
@@ -21,8 +22,10 @@ namespace coinlight {
 class DownloadPage;
 class InfoSourceList;
 class MachineListView;
+class MaintenancePage;
 class SnapshotPane;
 class SettingsPage;
+class VerifyPage;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -43,7 +46,8 @@ enum LinkIndex : int {
     LinkVectorPostDefaults = 22,
     LinkBloomPostDefaults = 23,
     LinkBGFXPath = 24,
-    kLinkCount = 25,
+    LinkListSlots = 25,
+    kLinkCount = 26,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -69,6 +73,41 @@ struct MainControls {
     QAction* mnuReportsRebuild = nullptr;
     QAction* mnuMainExit = nullptr;
 
+    // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
+    // the right-click menu of the lists
+    QMenu* mnuMain = nullptr;
+    QAction* mnuMainAudit = nullptr;
+    QAction* mnuMainExport = nullptr;
+    QAction* mnuToolsMaintenance = nullptr;
+    QMenu* mnuReports = nullptr;
+    QMenu* mnuReportsROMs = nullptr;
+    QAction* mnuReportsVerifyROMs = nullptr;
+    QAction* mnuReportsLastROM = nullptr;
+    QMenu* mnuReportsSoftware = nullptr;
+    QAction* mnuReportsVerifyAllSoftware = nullptr;
+    QAction* mnuReportsLastAllSoftware = nullptr;
+    QAction* mnuReportsVerifyMachinesSoftware = nullptr;
+    QAction* mnuReportsLastMachinesSoftware = nullptr;
+    QMenu* mnuReportsSamples = nullptr;
+    QAction* mnuReportsVerifySamples = nullptr;
+    QAction* mnuReportsLastSample = nullptr;
+    QMenu* mnuReportsWhatsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChangedReport = nullptr;
+    QAction* mnuReportsFind = nullptr;
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuDeleteROM = nullptr;
+    QAction* mnuDeleteSamples = nullptr;
+
+    // Reports menu: the favourites entries
+    QAction* mnuReportsFavoriteArcadeChanges = nullptr;
+    QAction* mnuReportsFavoriteOtherChanges = nullptr;
+
+    // The lists' right-click menu
+    QAction* mnuAddFavorite = nullptr;
+    QAction* mnuRemoveFavorite = nullptr;
+    QAction* mnuRefreshSoftware = nullptr;
+
     // Reports and Help menus: the documents
     QAction* mnuReportsUnlistedMachines = nullptr;
     QAction* mnuHelpHeritage = nullptr;
@@ -85,8 +124,10 @@ struct MainControls {
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
+    VerifyPage* verifyPage = nullptr; // fraVerify as the page it is
     SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
+    MaintenancePage* maintenancePage = nullptr; // fraMaintenance as the page it is
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
 
@@ -97,7 +138,8 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    MachineListView* lvSoftware = nullptr;
+    SoftwarePanel* picSoftware = nullptr; // beside lvOther
+    SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
@@ -124,7 +166,6 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
-    QWidget* picSoftware = nullptr;
     DownloadPage* fraDownload = nullptr; // shown in a development run only
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;

@@ -16,6 +16,8 @@
 #include "frmCover.h"
 #include "frmSplash.h"
 #include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
@@ -85,6 +87,7 @@ void frmMain::ConnectControls() {
             ShowDetails(*list);
         });
     }
+    ConnectReportControls();
     ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
     connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::AvailableDoubleClick);
@@ -97,6 +100,8 @@ void frmMain::ConnectControls() {
     connect(c.mnuHelpNews, &QAction::triggered, this, &frmMain::News);
     connect(c.mnuHelpUpdate, &QAction::triggered, this, &frmMain::Update);
     connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
+    ConnectSoftwareControls();
+    ConnectFavoritesControls();
     ConnectInformation();
 }
 
@@ -156,8 +161,14 @@ void frmMain::LinkClicked(int index) {
     case LinkFind:
         Find();
         break;
+    case LinkAudit:
+        Audit();
+        break;
     case LinkInfo:
         Info();
+        break;
+    case LinkListSlots:
+        ListSlots();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -255,7 +266,6 @@ void frmMain::DisableFormButtons() {
           static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
         control->setEnabled(false);
     }
-    c.picSoftware->hide();
     SetFamilyCheckBoxes(false);
 }
 
@@ -287,14 +297,7 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
     }
 }
 
-bool frmMain::HasCommand(int link) const {
-    // The audit is not built yet: its buttons and links stay out of sight until it is.
-    return link != LinkAudit;
-}
-
 void frmMain::SetStartCommands(bool enabled) {
-    // Other machines start from their software panel, which is not built yet.
-    enabled = enabled && !m_inOtherView;
     m_controls.cmdStart->setEnabled(enabled);
     m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
 }
@@ -311,10 +314,11 @@ void frmMain::SetLinksOrButtons() {
                                               {c.cmdInfo, LinkInfo},
                                               {c.cmdGameList, LinkReturnList1}};
     for (const auto& [button, link] : twins) {
-        const bool shown = HasCommand(link);
-        button->setVisible(!links && shown);
-        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links && shown);
+        button->setVisible(!links);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
+    c.verifyPage->SetUseLinks(links);
+    c.maintenancePage->SetUseLinks(links);
 }
 
 void frmMain::EmptyTempFolder() {
@@ -367,13 +371,22 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     } else if (page == m_controls.fraDefaults) {
         OK();
     } else if (page == m_controls.fraVerify) {
-        ReturnList1();
+        if (m_controls.cmdGameList->isEnabled()) { // not while a report is being made
+            ReturnList1();
+        }
     } else if (page == m_controls.fraMaintenance) {
         ReturnList2();
     }
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (m_verifyRunning) {
+        // MAME is stopped first; the window closes when the verification has ended.
+        m_closeAfterVerify = true;
+        CancelVerify();
+        event->ignore();
+        return;
+    }
     // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
     const bool settingsOpen = m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
                               m_controls.lblBLinks[LinkExit]->Caption() == QStringLiteral("Cancel");

@@ -21,6 +21,10 @@
 #include "online/SiteAddresses.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "reports/MaintenancePlan.h"
+#include "reports/ReportHeading.h"
+#include "reports/VerifyReports.h"
+#include "settings/MameIniBase.h"
 #include "settings/ProfileSave.h"
 #include "settings/SettingsOk.h"
 #include "settings/SettingsScreens.h"
@@ -76,7 +80,21 @@ public:
     void Options();
     void PlayArcade();
     void PlayOther();
-    /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
+    /// The slot listing of the selected other machine, asked of MAME once per run.
+    void ListSlots();
+
+    // Favourites
+    void AddFavorite();
+    void RemoveFavorite();
+    /// `fileName`: "arcadefavschanges.txt" or "otherfavschanges.txt".
+    void FavoriteChanges(const std::string& fileName);
+
+    // Software of other machines
+    /// Throws the software file of `machine` away and loads the panel anew; with an empty
+    /// name throws every machine's file away and does nothing else.
+    void KillSoftsOther(const std::string& machine);
+    /// By its caption: shows the mame.ini the selected machine would get, lists the bad sets
+    /// of a report, or prints the report page.
     void Find();
 
     // Online
@@ -88,9 +106,34 @@ public:
     /// artwork downloaded; any other double click starts the machine.
     void AvailableDoubleClick();
     void UnavailableDoubleClick();
-    /// The rule of a double click in lvSoftware: while the list shows unavailable software
-    /// the user is told so and true comes back; otherwise false, and the caller starts it.
-    bool RefuseUnavailableSoftware(bool unavailableSoftwareShown);
+    // Audit and reports
+    void Audit();
+    void VerifyROMs();
+    void VerifySamples();
+    /// An empty `lists` means all software; any other value the machine whose software the
+    /// panel loaded last (SetSoftwareMachine).
+    void VerifySoftware(const std::string& lists);
+    void LastROM();
+    void LastSample();
+    void LastSoftware(const std::string& lists);
+    /// Ends a running verification; the page then says it was cancelled.
+    void CancelVerify();
+    void CompareCRCInfos();
+    void WhatROMsChangedReport();
+    void Export();
+    /// The machine whose software was loaded last (SoftwareMachine); the software panel
+    /// keeps it up to date, the software reports read it.
+    void SetSoftwareMachine(std::string machine) { m_softwareMachine = std::move(machine); }
+    const std::string& SoftwareMachine() const { return m_softwareMachine; }
+
+    // Maintenance
+    void Maintenance();
+    void UnneededFileSearch();
+    void UnneededFileRemove();
+    void CleanReports();
+    void CleanOutputDirectories();
+    void DeleteROM();
+    void DeleteSamples();
 
     // Information, pictures and documents
     void Info();
@@ -207,6 +250,47 @@ private:
     void FocusAfterNews();
     bool DownloadCancelled() const;
     DownloadOutcome DownloadArtworkFor(const std::string& name);
+    // Reports' steps
+    void ConnectReportControls();
+    MachineListView* AuditList();
+    void RunVerify(VerifyKind kind);
+    void ShowLastReport(VerifyKind kind);
+    void EnterReportPage(const QString& caption);
+    void ShowReportFile(const std::filesystem::path& file);
+    void OfferBadSets();
+    void LeaveReportPage();
+    void ListBadSets();
+    void PrintReportPage();
+    bool RunMame(const std::string& commandLine, const std::function<bool()>& whileRunning);
+    void ShowHeadings(const ReportHeadings& headings);
+    void ShowLink(int index, bool shown);
+    void UpdateReportMenus();
+    void PrepareMaintenanceEntries(const MachineListView& list);
+    bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
+    std::string MaintenanceMachine();
+
+    // The software panel's steps
+    void ConnectSoftwareControls();
+    void OtherItemClick();
+    void SoftwareTimerTick();
+    void ClearSoftwareStuff();
+    void LoadSoftwareLists();
+    void FinishSoftwareLoad();
+    void LoadListsSoftware(const std::string& machine);
+    void SoftwareOptionClicked();
+    void SoftwareColumnClicked(int column);
+    void SoftwareItemClick();
+    /// The one place a double click or Enter in lvSoftware goes: a rule that must act
+    /// before the start belongs at its top.
+    void SoftwareDoubleClick();
+    void UpdateSoftwareControls();
+    void UpdateStartControls();
+    void FillSoftwareState(MameIniBase& base) const;
+
+    // Favourites' steps
+    void ConnectFavoritesControls();
+    void PrepareListMenu(MachineListView& list);
+    void PurgeBeforeViewing(const std::string& word);
 
     // Information's steps
     void ConnectInformation();
@@ -253,8 +337,6 @@ private:
     void TickView(QAction* entry);
     void UpdateCommandSet();
     void SetStartCommands(bool enabled);
-    /// Whether the command behind a button and its link exists in this build.
-    bool HasCommand(int link) const;
     void SetFamilyCheckBoxes(bool visible);
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);
@@ -297,6 +379,10 @@ private:
         bool visible;
     };
     std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
+    std::string m_softwareMachine;                 // whose software the panel shows
+    int m_softwareAvailable = 0;                   // iSoftwareA
+    int m_softwareUnavailable = 0;                 // iSoftwareU
+    bool m_skipOtherItemClick = false;             // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
@@ -311,6 +397,9 @@ private:
     WindowCloseWatch m_closeWatch;
     bool m_onlineBusy = false; // a transfer runs: another online command waits its turn
     bool m_shotsOn = false;    // ShotsOn: the snapshot pane is open
+    bool m_verifyRunning = false;    // MAME verifies; the window waits for it
+    bool m_cancelVerify = false;     // the user asked to stop it
+    bool m_closeAfterVerify = false; // the window was closed meanwhile
     std::filesystem::path m_mameManual = DebianManual();
     std::function<bool(const QString&)> m_openAddress;
 };

@@ -142,7 +142,6 @@ void frmMain::BuildListColumns() {
         list->SetColumns(arcade, m_hiddenColumns);
     }
     m_controls.lvOther->SetColumns(OtherListColumns(), m_hiddenColumns);
-    m_controls.lvSoftware->SetColumns(SoftwareListColumns(), {});
 }
 
 bool frmMain::LoadOptions() {
@@ -401,7 +400,9 @@ void frmMain::ApplyListsAppearance() {
     const OtherPreferences& other = m_context.preferences.other;
     const bool starField = other.theme == "Heritage";
     const MainControls& c = m_controls;
-    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvSoftware}) {
+    for (QTreeView* list :
+         {static_cast<QTreeView*>(c.lvAll), static_cast<QTreeView*>(c.lvAvailable),
+          static_cast<QTreeView*>(c.lvUnavailable), static_cast<QTreeView*>(c.lvSoftware)}) {
         ApplyListAppearance(*list, other, starField, false);
     }
     // The other list never has the picture, and keeps its own text colour: red marks data.

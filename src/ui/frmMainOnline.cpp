@@ -309,13 +309,4 @@ void frmMain::UnavailableDoubleClick() {
     m_shiftDown.Clear();
 }
 
-bool frmMain::RefuseUnavailableSoftware(bool unavailableSoftwareShown) {
-    if (!unavailableSoftwareShown) {
-        return false;
-    }
-    m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This software is not available."),
-                       PromptIcon::Information);
-    return true;
-}
-
 } // namespace coinlight

@@ -167,15 +167,42 @@ void frmMain::ViewOther() {
     }
     SetLinksOrButtons();
     UpdateCommandSet();
+    c.picSoftware->show();
     ShowListInView(*c.lvOther, m_context.preferences.view.other);
+    if (c.lvOther->Model().rowCount() != 0) {
+        c.picSoftware->Timer()->stop(); // the selection just made needs no second load
+        ClearSoftwareStuff();
+        LoadSoftwareLists();
+    }
     CreateMAMEIni();
 }
 
 void frmMain::PanelClearSoftware() {
-    PanelTextHide();
-    m_controls.lblPanel[0]->setText(QStringLiteral("Machines: 0"));
-    SetStartCommands(false);
+    const MainControls& c = m_controls;
+    for (std::size_t i = 1; i < c.lblPanel.size(); ++i) {
+        c.lblPanel[i]->clear();
+    }
+    if (m_inOtherView) {
+        const MachineRow* row = c.lvOther->SelectedMachine();
+        if (c.lvOther->Model().rowCount() == 0) {
+            SetStartCommands(false);
+        } else if (row != nullptr && row->Field(ColSoftwareLists) == "N/A") {
+            UpdateStartControls();
+            c.lblPanel[1]->setText(
+                QStringLiteral(" *** This Machine Does Not Have Any Software Lists ***"));
+        }
+    } else {
+        for (QWidget* control :
+             {static_cast<QWidget*>(c.cmdStart), static_cast<QWidget*>(c.cmdAudit),
+              static_cast<QWidget*>(c.cmdInfo)}) {
+            control->setEnabled(false);
+        }
+        for (int link : {LinkStart, LinkAudit, LinkInfo}) {
+            c.lblBLinks[static_cast<std::size_t>(link)]->hide();
+        }
+    }
     SetFamilyCheckBoxes(false);
+    c.chkAutoRun->setChecked(false);
 }
 
 DetailsSource frmMain::DetailsSourceOf(const MachineListView& list, const MachineRow& row) const {
@@ -244,10 +271,18 @@ void frmMain::ReturnList1() {
         ShowDetails(*list);
     }
     SetStartCommands(list != c.lvUnavailable && list->Model().rowCount() != 0);
+    if (m_inOtherView) {
+        UpdateStartControls(); // a red row stays unstartable
+    }
 }
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    UncoverCommands();
+    MachineListView* list = ListOfView();
+    if (list->Model().rowCount() != 0) {
+        ShowDetails(*list);
+    }
     LoadSnapshot();
 }
 

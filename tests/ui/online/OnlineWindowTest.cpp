@@ -286,13 +286,6 @@ TEST_F(ArtworkDoubleClick, AReleasedShiftOrAnUnavailableMachineStartsNoDownload)
     EXPECT_EQ(LastPrompt().text, "This ROM is unavailable.");
     EXPECT_EQ(LastPrompt().icon, PromptIcon::Information);
     EXPECT_TRUE(m_server.Requests().empty());
-
-    EXPECT_FALSE(Form().RefuseUnavailableSoftware(false));
-    const std::size_t before = m_prompter.Prompts().size();
-    EXPECT_TRUE(Form().RefuseUnavailableSoftware(true));
-    ASSERT_EQ(m_prompter.Prompts().size(), before + 1);
-    EXPECT_EQ(LastPrompt().text, "This software is not available.");
-    EXPECT_EQ(LastPrompt().title, "Start");
 }
 
 class BulkDownload : public OnlineWindow {
