@@ -118,6 +118,8 @@ void BuildOnlineMenu(QMainWindow& window, MainControls& c) {
     c.mnuHelp = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
     c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
     c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
+}
+
 void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
     c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
     c.mnuReportsFavoriteArcadeChanges =

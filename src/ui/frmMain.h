@@ -395,8 +395,8 @@ private:
     SiteAddresses m_sites = ReadSiteAddresses(ProcessEnvironment());
     ShiftKeyWatch m_shiftDown; // ShiftDown
     WindowCloseWatch m_closeWatch;
-    bool m_onlineBusy = false; // a transfer runs: another online command waits its turn
-    bool m_shotsOn = false;    // ShotsOn: the snapshot pane is open
+    bool m_onlineBusy = false;       // a transfer runs: another online command waits its turn
+    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
     bool m_verifyRunning = false;    // MAME verifies; the window waits for it
     bool m_cancelVerify = false;     // the user asked to stop it
     bool m_closeAfterVerify = false; // the window was closed meanwhile
