@@ -9,6 +9,7 @@
 #include "MachineListView.h"
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
+#include "ui/online/DownloadPage.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
@@ -110,6 +111,13 @@ void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
     c.mnuHelpBGFX = AddAction(help, "mnuHelpBGFX", QStringLiteral("MAME BGFX"));
     c.mnuHelpHLSL = AddAction(help, "mnuHelpHLSL", QStringLiteral("MAME HLSL"));
     c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
+}
+
+/// The news and the update check, behind the documents in the Help menu.
+void BuildOnlineMenu(QMainWindow& window, MainControls& c) {
+    c.mnuHelp = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
+    c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
+    c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
 }
 
 void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
@@ -375,6 +383,7 @@ MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
     BuildMenus(window, c);
     BuildDocumentMenus(window, c);
+    BuildOnlineMenu(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);
@@ -396,6 +405,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     left->addWidget(c.pages, 1);
     left->addLayout(BuildDetailsStrip(c));
     left->addLayout(BuildStartRow(central, c));
+    c.fraDownload = new DownloadPage(central);
+    c.fraDownload->hide();
+    left->addWidget(c.fraDownload);
     top->addLayout(left, 1);
     top->addWidget(BuildSideColumn(c));
     outer->addLayout(top, 1);

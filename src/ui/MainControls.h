@@ -19,6 +19,7 @@ class QMainWindow;
 
 namespace coinlight {
 
+class DownloadPage;
 class InfoSourceList;
 class MachineListView;
 class MaintenancePage;
@@ -115,6 +116,9 @@ struct MainControls {
     QAction* mnuHelpBGFX = nullptr;
     QAction* mnuHelpHLSL = nullptr;
     QAction* mnuHelpGLSL = nullptr;
+    QMenu* mnuHelp = nullptr;
+    QAction* mnuHelpNews = nullptr;
+    QAction* mnuHelpUpdate = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
@@ -162,6 +166,7 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
+    DownloadPage* fraDownload = nullptr; // shown in a development run only
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took

@@ -15,6 +15,7 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "ui/online/DownloadPage.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
@@ -89,11 +90,16 @@ void frmMain::ConnectControls() {
     ConnectReportControls();
     ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
-    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
+    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::AvailableDoubleClick);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
-    connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
-        m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
-    });
+    connect(c.lvUnavailable, &MachineListView::RowActivated, this,
+            &frmMain::UnavailableDoubleClick);
+    m_shiftDown.Watch(c.lvAvailable);
+    m_shiftDown.Watch(c.lvUnavailable);
+    m_closeWatch.Watch(this);
+    connect(c.mnuHelpNews, &QAction::triggered, this, &frmMain::News);
+    connect(c.mnuHelpUpdate, &QAction::triggered, this, &frmMain::Update);
+    connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
     ConnectSoftwareControls();
     ConnectFavoritesControls();
     ConnectInformation();
@@ -220,10 +226,6 @@ void frmMain::AutoRunAtStart() {
     const QSignalBlocker quiet(m_controls.chkAutoRun);
     m_controls.chkAutoRun->setChecked(true);
     PlayArcade();
-}
-
-void frmMain::NewsAtStart() {
-    // Without a project site address there is no news to fetch, and the step is silent.
 }
 
 void frmMain::StartScrolling() {

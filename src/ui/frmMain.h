@@ -17,6 +17,8 @@
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
+#include "online/HttpTransport.h"
+#include "online/SiteAddresses.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
 #include "reports/MaintenancePlan.h"
@@ -27,6 +29,8 @@
 #include "settings/SettingsOk.h"
 #include "settings/SettingsScreens.h"
 #include "settings/StartBoxes.h"
+#include "ui/online/ShiftKeyWatch.h"
+#include "ui/online/WindowCloseWatch.h"
 
 namespace coinlight {
 
@@ -93,6 +97,15 @@ public:
     /// of a report, or prints the report page.
     void Find();
 
+    // Online
+    void News();
+    void Update();
+    /// The Download button of fraDownload: artwork or samples for every machine.
+    void ArtSamDownload();
+    /// A double click in lvAvailable: with Shift held, a machine without artwork gets its
+    /// artwork downloaded; any other double click starts the machine.
+    void AvailableDoubleClick();
+    void UnavailableDoubleClick();
     // Audit and reports
     void Audit();
     void VerifyROMs();
@@ -230,6 +243,13 @@ private:
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
 
+    // Online steps
+    std::string FetchNews();
+    void ShowNewsPage(const std::string& text, bool greet);
+    bool StoreNewsDate(Day date, std::string* error);
+    void FocusAfterNews();
+    bool DownloadCancelled() const;
+    DownloadOutcome DownloadArtworkFor(const std::string& name);
     // Reports' steps
     void ConnectReportControls();
     MachineListView* AuditList();
@@ -370,10 +390,16 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+
+    HttpTransport m_internet;
+    SiteAddresses m_sites = ReadSiteAddresses(ProcessEnvironment());
+    ShiftKeyWatch m_shiftDown; // ShiftDown
+    WindowCloseWatch m_closeWatch;
+    bool m_onlineBusy = false;       // a transfer runs: another online command waits its turn
+    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
     bool m_verifyRunning = false;    // MAME verifies; the window waits for it
     bool m_cancelVerify = false;     // the user asked to stop it
     bool m_closeAfterVerify = false; // the window was closed meanwhile
-    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
     std::filesystem::path m_mameManual = DebianManual();
     std::function<bool(const QString&)> m_openAddress;
 };

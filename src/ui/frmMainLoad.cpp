@@ -19,6 +19,7 @@
 #include "lists/ListColumns.h"
 #include "options/PathRules.h"
 #include "settings/MameIniBase.h"
+#include "ui/online/DownloadPage.h"
 
 namespace coinlight {
 
@@ -85,6 +86,7 @@ bool frmMain::FormLoad() {
     const EnvironmentLookup environment = ProcessEnvironment();
     m_context.os = environment("OS").value_or("");
     m_context.facts.ideMode = IsIdeMode(environment);
+    m_controls.fraDownload->setVisible(m_context.facts.ideMode);
     m_controls.rtfVerify->clear();
     m_context.facts.hasCatver = FileExists(m_context.data.Support() / "catver.ini");
     BuildListColumns();
