@@ -46,6 +46,9 @@ namespace {
 /// Records are one line each in a sound file, so the line count is a cheap upper bound.
 std::size_t LineCount(std::string_view text) {
     std::size_t lines = 0;
+    if (text.empty()) {
+        return lines; // an empty view may have no data at all, which memchr must not see
+    }
     const char* at = text.data();
     const char* end = at + text.size();
     while ((at = static_cast<const char*>(

@@ -4,9 +4,11 @@
 #include <array>
 #include <cstdio>
 #include <functional>
+#include <thread>
 
-#include "core/TextCase.h"
+#include "PathList.h"
 #include "core/FileTests.h"
+#include "core/TextCase.h"
 
 namespace coinlight {
 
@@ -208,6 +210,17 @@ const std::vector<ComboList>& ComboLists() {
 }
 
 } // namespace
+
+ComboSources PreferenceComboSources(const SearchPathPreferences& paths) {
+    ComboSources sources;
+    if (!paths.artwork.empty()) {
+        sources.artworkFolders = CreateMultiplePathArray(paths.artwork).paths;
+    }
+    sources.controllerFolder = paths.controller;
+    sources.languageFolder = paths.language;
+    sources.processors = std::thread::hardware_concurrency();
+    return sources;
+}
 
 std::vector<std::string> SingleSteps(float from, float limit, float step, int decimals) {
     Items items;

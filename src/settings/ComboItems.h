@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Preferences.h"
+
 namespace coinlight {
 
 /// One mode of a screen, as the resolution list offers it.
@@ -24,6 +26,10 @@ struct ComboSources {
     int monitors = 0;
     std::vector<DisplayMode> displayModes;
 };
+
+/// The sources that come from the preferences and the processor count; the fonts and the
+/// screens are the window system's to add.
+ComboSources PreferenceComboSources(const SearchPathPreferences& paths);
 
 /// The items of a drop-down of the settings screens, by its control name ("cboSpeed",
 /// "cboInputDev(3)"). Empty for a name that is no drop-down of the option catalogue.

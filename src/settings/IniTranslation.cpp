@@ -6,8 +6,8 @@
 
 #include "MameIniText.h"
 #include "PathList.h"
-#include "core/TextCase.h"
 #include "core/ProfileDocument.h"
+#include "core/TextCase.h"
 
 namespace coinlight {
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "StartBoxes.h"
-#include "core/UserMessage.h"
 #include "core/Preferences.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

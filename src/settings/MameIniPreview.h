@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/UserMessage.h"
 #include "core/Preferences.h"
+#include "core/UserMessage.h"
 
 namespace coinlight {
 

@@ -32,6 +32,16 @@ enum class IniRule : std::uint8_t {
     NotWritten,   // reaches the command line instead
 };
 
+/// What a save does to the text of a control before it is written. The control itself
+/// takes the result, so the screen shows what the file holds.
+enum class SaveRule : std::uint8_t {
+    AsIs,
+    LowerCase,   // MAME reads the value without regard to case
+    EmptyToZero, // an empty box means no integer scaling
+    EmptyToAuto, // an empty box means MAME's own choice
+    EmptyToNone, // an empty box means no shader
+};
+
 /// One emulator option as Coinlight offers it: where a profile keeps it, which control
 /// edits it, its default, and the mame.ini option or options it gives.
 struct OptionRow {
@@ -42,6 +52,8 @@ struct OptionRow {
     std::string_view defaultValue;
     std::string_view iniOptions; // blank-separated when one setting gives several lines
     IniRule rule;
+    SaveRule save = SaveRule::AsIs;
+    std::string_view tag = {}; // how messages and reports name the control, when not its key
 };
 
 /// The profile sections, in the order a profile holds them.
@@ -86,5 +98,19 @@ std::optional<std::size_t> FindOptionByKey(std::string_view key);
 std::optional<std::size_t> FindOptionByIniName(std::string_view iniOption);
 /// The mame.ini options of a row, in the order their lines are written.
 std::vector<std::string_view> IniOptionNames(const OptionRow& row);
+
+/// The row edited by a control ("cboVideo", "txtHLSL(17)").
+std::optional<std::size_t> FindOptionByControl(std::string_view control);
+/// The row of a control, for names the program itself spells: a name that is no control of
+/// the catalogue is a mistake in the program, and stops it.
+std::size_t RowOfControl(std::string_view control);
+/// How messages and the rebuild report name a row's control: its Tag, or its caption for a
+/// check box. Both are the key, but for the BIOS list.
+std::string_view OptionTag(const OptionRow& row);
+
+/// A control name without its array index ("txtHLSL" for "txtHLSL(17)"), and the index
+/// (nothing for a control that is no array element).
+std::string_view ControlFamily(std::string_view control);
+std::optional<int> ControlIndex(std::string_view control);
 
 } // namespace coinlight

@@ -1,7 +1,7 @@
 #include "ProfileChoice.h"
 
-#include "core/TextCase.h"
 #include "core/FileTests.h"
+#include "core/TextCase.h"
 
 namespace coinlight {
 

@@ -7,6 +7,12 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "info/InfoSourceList.h"
+#include "info/SnapshotPane.h"
+#include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
+#include "ui/settings/SettingsPage.h"
 #include "MachineSearchField.h"
 
 namespace coinlight {
@@ -46,6 +52,8 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
 void BuildMenus(QMainWindow& window, MainControls& c) {
     QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
     main->setObjectName(QStringLiteral("mnuMain"));
+    c.mnuMain = main;
+    c.mnuMainInfo = AddAction(main, "mnuMainInfo", QStringLiteral("Information"));
     c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
 
     c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
@@ -67,9 +75,142 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
 
     QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
+    c.mnuTools = tools;
+    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
+    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
+    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
+    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
+    // The report belongs to the reports menu once there is one.
+    c.mnuReportsRebuild =
+        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
+    tools->addSeparator();
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
     c.mnuToolsCheckOptions =
         AddAction(tools, "mnuToolsCheckOptions", QStringLiteral("Check MAME Options"));
+}
+
+/// The menu of that name, made at the end of the bar unless another part made it first.
+QMenu* MenuNamed(QMainWindow& window, const char* name, const QString& title) {
+    for (QAction* action : window.menuBar()->actions()) {
+        if (action->menu() != nullptr && action->menu()->objectName() == QLatin1String(name)) {
+            return action->menu();
+        }
+    }
+    QMenu* menu = window.menuBar()->addMenu(title);
+    menu->setObjectName(QString::fromLatin1(name));
+    return menu;
+}
+
+void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
+    QMenu* reports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsUnlistedMachines =
+        AddAction(reports, "mnuReportsUnlistedMachines", QStringLiteral("Unlisted Machines"));
+    QMenu* help = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
+    c.mnuHelpHeritage = AddAction(help, "mnuHelpHeritage", QStringLiteral("Coinlight Info"));
+    c.mnuHelpCommandLines =
+        AddAction(help, "mnuHelpCommandLines", QStringLiteral("MAME Command-Line Options"));
+    c.mnuHelpDefaultKeys =
+        AddAction(help, "mnuHelpDefaultKeys", QStringLiteral("MAME Default Keys"));
+    c.mnuHelpBGFX = AddAction(help, "mnuHelpBGFX", QStringLiteral("MAME BGFX"));
+    c.mnuHelpHLSL = AddAction(help, "mnuHelpHLSL", QStringLiteral("MAME HLSL"));
+    c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
+}
+
+/// The news and the update check, behind the documents in the Help menu.
+void BuildOnlineMenu(QMainWindow& window, MainControls& c) {
+    c.mnuHelp = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
+    c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
+    c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
+}
+
+void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    c.mnuReportsFavoriteArcadeChanges =
+        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
+                  QStringLiteral("Favorite Arcade Machine Changes"));
+    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
+                                                 QStringLiteral("Favorite Other Machine Changes"));
+}
+
+QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
+    QMenu* submenu = menu->addMenu(caption);
+    submenu->setObjectName(QString::fromLatin1(name));
+    return submenu;
+}
+
+/// The entries of the audit, the reports and the maintenance commands on the menus.
+void BuildReportMenus(QMainWindow& window, MainControls& c) {
+    c.mnuMainAudit = new QAction(QStringLiteral("Audit"), c.mnuMain);
+    c.mnuMainAudit->setObjectName(QStringLiteral("mnuMainAudit"));
+    c.mnuMainExport = new QAction(QStringLiteral("Export List"), c.mnuMain);
+    c.mnuMainExport->setObjectName(QStringLiteral("mnuMainExport"));
+    c.mnuMain->insertAction(c.mnuMainInfo, c.mnuMainAudit);
+    c.mnuMain->insertAction(c.mnuMainExit, c.mnuMainExport);
+
+    c.mnuToolsMaintenance = new QAction(QStringLiteral("Maintenance..."), c.mnuTools);
+    c.mnuToolsMaintenance->setObjectName(QStringLiteral("mnuToolsMaintenance"));
+    c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
+
+    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
+    // The reports come first, the favourites' changes, the documents and the ini after them.
+    for (QAction* later : {c.mnuReportsFavoriteArcadeChanges, c.mnuReportsFavoriteOtherChanges,
+                           c.mnuReportsUnlistedMachines}) {
+        c.mnuReports->removeAction(later);
+    }
+    c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
+    c.mnuReportsVerifyROMs =
+        AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
+    c.mnuReportsLastROM =
+        AddAction(c.mnuReportsROMs, "mnuReportsLastROM", QStringLiteral("Last ROMs Report"));
+    c.mnuReportsSoftware =
+        AddSubmenu(c.mnuReports, "mnuReportsSoftware", QStringLiteral("Software"));
+    c.mnuReportsVerifyAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsVerifyAllSoftware",
+                                              QStringLiteral("Verify All Software"));
+    c.mnuReportsLastAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsLastAllSoftware",
+                                            QStringLiteral("Last All Software Report"));
+    c.mnuReportsVerifyMachinesSoftware =
+        AddAction(c.mnuReportsSoftware, "mnuReportsVerifyMachinesSoftware",
+                  QStringLiteral("Verify Machine's Software"));
+    c.mnuReportsLastMachinesSoftware = AddAction(
+        c.mnuReportsSoftware, "mnuReportsLastMachinesSoftware",
+        QStringLiteral("Last Machine's Software Report (May Not Be Current Selected Machine)"));
+    c.mnuReportsSamples = AddSubmenu(c.mnuReports, "mnuReportsSamples", QStringLiteral("Samples"));
+    c.mnuReportsVerifySamples = AddAction(c.mnuReportsSamples, "mnuReportsVerifySamples",
+                                          QStringLiteral("Verify All Samples"));
+    c.mnuReportsLastSample = AddAction(c.mnuReportsSamples, "mnuReportsLastSample",
+                                       QStringLiteral("Last Samples Report"));
+    c.mnuReportsWhatsChanged =
+        AddSubmenu(c.mnuReports, "mnuReportsWhatsChanged", QStringLiteral("What's Changed"));
+    c.mnuReportsWhatROMsChanged = AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChanged",
+                                            QStringLiteral("What ROMs Changed"));
+    c.mnuReportsWhatROMsChangedReport =
+        AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChangedReport",
+                  QStringLiteral("Last What ROMs Changed Report"));
+    // The settings' rebuild report has waited in Tools for this menu.
+    c.mnuTools->removeAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsRebuild);
+    c.mnuReports->addAction(c.mnuReportsFavoriteArcadeChanges);
+    c.mnuReports->addAction(c.mnuReportsFavoriteOtherChanges);
+    c.mnuReports->addAction(c.mnuReportsUnlistedMachines);
+    c.mnuReports->addSeparator();
+    c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
+
+    c.mnuDeleteROM = AddAction(c.mnuRClick, "mnuDeleteROM", QStringLiteral("Delete ROM"));
+    c.mnuDeleteSamples =
+        AddAction(c.mnuRClick, "mnuDeleteSamples", QStringLiteral("Delete &Samples"));
+}
+
+void BuildListMenu(QMainWindow& window, MainControls& c) {
+    c.mnuRClick = new QMenu(&window);
+    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
+    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
+    c.mnuRemoveFavorite =
+        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
+    c.mnuRefreshSoftware =
+        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
 }
 
 QWidget* BuildListFrame(MainControls& c) {
@@ -84,10 +225,12 @@ QWidget* BuildListFrame(MainControls& c) {
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -95,24 +238,22 @@ QWidget* BuildListFrame(MainControls& c) {
                           static_cast<QWidget*>(c.lvUnavailable), c.otherPage}) {
         c.lists->addWidget(list);
     }
-    layout->addWidget(c.lists);
+    layout->addWidget(c.lists, 1);
+    c.picShots = new SnapshotPane;
+    c.lblShots = c.picShots->MissingText();
+    c.picShots->hide();
+    layout->addWidget(c.picShots, 1);
     return c.fraList;
 }
 
 QWidget* BuildVerifyFrame(MainControls& c) {
-    c.fraVerify = Named(new QGroupBox, QStringLiteral("fraVerify"));
-    auto* layout = new QVBoxLayout(c.fraVerify);
-    c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
-    c.rtfVerify->setOpenExternalLinks(false);
-    c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
-    layout->addWidget(c.rtfVerify);
-    auto* commands = new QHBoxLayout;
-    c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
-                              QStringLiteral("Returns To The Machine List"));
-    commands->addWidget(c.cmdGameList);
-    commands->addWidget(AddLink(c.fraVerify, c, LinkReturnList1, QStringLiteral("Return")));
-    commands->addStretch();
-    layout->addLayout(commands);
+    c.verifyPage = new VerifyPage;
+    c.fraVerify = c.verifyPage;
+    c.rtfVerify = c.verifyPage->Report();
+    c.cmdGameList = c.verifyPage->ReturnButton();
+    c.lblBLinks[LinkReturnList1] = c.verifyPage->ReturnLink();
+    c.lstInfo = new InfoSourceList; // moves with the report page
+    c.verifyPage->SetSidePanel(c.lstInfo);
     return c.fraVerify;
 }
 
@@ -187,14 +328,28 @@ QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
     return row;
 }
 
+QWidget* BuildCabinetRow(MainControls& c) {
+    // Its own height whether or not the machine has an icon: the commands below stay put.
+    auto* cabinet = Named(new QWidget, QStringLiteral("picCabinet"));
+    cabinet->setFixedHeight(34);
+    auto* row = new QHBoxLayout(cabinet);
+    row->setContentsMargins(0, 0, 0, 0);
+    c.picIcon = Named(new QLabel, QStringLiteral("picIcon"));
+    c.picIcon->setFixedSize(32, 32);
+    c.picIcon->hide();
+    c.lblArtwork = Named(new QLabel(QStringLiteral("Artwork")), QStringLiteral("lblArtwork"));
+    c.lblArtwork->setToolTip(QStringLiteral("This Machine Has An Artwork File"));
+    c.lblArtwork->hide();
+    row->addWidget(c.picIcon);
+    row->addWidget(c.lblArtwork);
+    row->addStretch();
+    return cabinet;
+}
+
 QWidget* BuildSideColumn(MainControls& c) {
     auto* side = Named(new QWidget, QStringLiteral("picSide"));
     auto* layout = new QVBoxLayout(side);
-    c.lblShots = Named(new QLabel, QStringLiteral("lblShots"));
-    c.lblShots->setWordWrap(true);
-    c.lblShots->setAlignment(Qt::AlignCenter);
-    c.lblShots->hide();
-    layout->addWidget(c.lblShots);
+    layout->addWidget(BuildCabinetRow(c));
     c.cmdArcadeSettings = AddButton(side, "cmdArcadeSettings", QStringLiteral("Arcade Settings"),
                                     QStringLiteral("Settings For Arcade Machines"));
     c.cmdOtherSettings = AddButton(side, "cmdOtherSettings", QStringLiteral("Other Settings"),
@@ -206,13 +361,14 @@ QWidget* BuildSideColumn(MainControls& c) {
         AddButton(side, "cmdExit", QStringLiteral("E&xit"), QStringLiteral("Closes Coinlight"));
     layout->addWidget(c.cmdArcadeSettings);
     layout->addWidget(AddLink(side, c, LinkArcadeSettings, QStringLiteral("Arcade Settings")));
+    c.cboSettings = Named(new QComboBox(side), QStringLiteral("cboSettings"));
+    c.cboSettings->setToolTip(QStringLiteral("The Class Of Machines These Settings Are For"));
+    c.cboSettings->hide();
+    layout->addWidget(c.cboSettings);
     layout->addWidget(c.cmdOtherSettings);
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
     c.lblVersion->setAlignment(Qt::AlignCenter);
@@ -232,6 +388,8 @@ void SetLinkText(LinkLabel* link, const QString& text) {
 MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
     BuildMenus(window, c);
+    BuildDocumentMenus(window, c);
+    BuildOnlineMenu(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);
@@ -239,8 +397,12 @@ MainControls BuildMainControls(QMainWindow& window) {
     auto* left = new QVBoxLayout;
 
     c.pages = Named(new QStackedWidget, QStringLiteral("pages"));
-    c.fraDefaults = Named(new QGroupBox, QStringLiteral("fraDefaults"));
-    c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
+    c.fraDefaults = new SettingsPage;
+    for (auto [index, link] : c.fraDefaults->MainLinks()) {
+        c.lblBLinks[static_cast<std::size_t>(index)] = link;
+    }
+    c.maintenancePage = new MaintenancePage;
+    c.fraMaintenance = c.maintenancePage;
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),
           static_cast<QWidget*>(c.fraMaintenance), BuildPleaseWait(c)}) {
@@ -249,6 +411,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     left->addWidget(c.pages, 1);
     left->addLayout(BuildDetailsStrip(c));
     left->addLayout(BuildStartRow(central, c));
+    c.fraDownload = new DownloadPage(central);
+    c.fraDownload->hide();
+    left->addWidget(c.fraDownload);
     top->addLayout(left, 1);
     top->addWidget(BuildSideColumn(c));
     outer->addLayout(top, 1);
@@ -266,6 +431,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    BuildFavoritesReports(window, c);
+    BuildListMenu(window, c);
+    BuildReportMenus(window, c);
     return c;
 }
 

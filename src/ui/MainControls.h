@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
@@ -12,12 +13,19 @@
 #include <QTextBrowser>
 
 #include "LinkLabel.h"
+#include "software/SoftwarePanel.h"
 
 class QMainWindow;
 
 namespace coinlight {
 
+class DownloadPage;
+class InfoSourceList;
 class MachineListView;
+class MaintenancePage;
+class SnapshotPane;
+class SettingsPage;
+class VerifyPage;
 class MachineSearchField;
 
 /// The link-style twins of the command buttons, by their index.
@@ -29,8 +37,18 @@ enum LinkIndex : int {
     LinkStart = 4,
     LinkAudit = 5,
     LinkInfo = 6,
+    LinkOK = 7,
+    LinkRestore = 8,
+    LinkCancel = 9,
     LinkReturnList1 = 11,
-    kLinkCount = 12,
+    LinkHLSLPath = 19,
+    LinkHLSLDefaults = 20,
+    LinkYIQDefaults = 21,
+    LinkVectorPostDefaults = 22,
+    LinkBloomPostDefaults = 23,
+    LinkBGFXPath = 24,
+    LinkListSlots = 25,
+    kLinkCount = 26,
 };
 
 /// Every control of the main window, made once by BuildMainControls. Each carries its
@@ -47,15 +65,71 @@ struct MainControls {
     QAction* mnuViewOtherFavorites = nullptr;
     QAction* mnuViewShots = nullptr;
     QAction* mnuMainOptions = nullptr;
+    QAction* mnuMainInfo = nullptr;
+    QMenu* mnuTools = nullptr;
+    QAction* mnuToolsArcade = nullptr;
+    QAction* mnuToolsOther = nullptr;
+    QAction* mnuToolsCustom = nullptr;
+    QAction* mnuToolsRebuild = nullptr;
+    QAction* mnuReportsRebuild = nullptr;
     QAction* mnuToolsCheckOptions = nullptr;
     QAction* mnuMainExit = nullptr;
+
+    // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
+    // the right-click menu of the lists
+    QMenu* mnuMain = nullptr;
+    QAction* mnuMainAudit = nullptr;
+    QAction* mnuMainExport = nullptr;
+    QAction* mnuToolsMaintenance = nullptr;
+    QMenu* mnuReports = nullptr;
+    QMenu* mnuReportsROMs = nullptr;
+    QAction* mnuReportsVerifyROMs = nullptr;
+    QAction* mnuReportsLastROM = nullptr;
+    QMenu* mnuReportsSoftware = nullptr;
+    QAction* mnuReportsVerifyAllSoftware = nullptr;
+    QAction* mnuReportsLastAllSoftware = nullptr;
+    QAction* mnuReportsVerifyMachinesSoftware = nullptr;
+    QAction* mnuReportsLastMachinesSoftware = nullptr;
+    QMenu* mnuReportsSamples = nullptr;
+    QAction* mnuReportsVerifySamples = nullptr;
+    QAction* mnuReportsLastSample = nullptr;
+    QMenu* mnuReportsWhatsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChanged = nullptr;
+    QAction* mnuReportsWhatROMsChangedReport = nullptr;
+    QAction* mnuReportsFind = nullptr;
+    QMenu* mnuRClick = nullptr;
+    QAction* mnuDeleteROM = nullptr;
+    QAction* mnuDeleteSamples = nullptr;
+
+    // Reports menu: the favourites entries
+    QAction* mnuReportsFavoriteArcadeChanges = nullptr;
+    QAction* mnuReportsFavoriteOtherChanges = nullptr;
+
+    // The lists' right-click menu
+    QAction* mnuAddFavorite = nullptr;
+    QAction* mnuRemoveFavorite = nullptr;
+    QAction* mnuRefreshSoftware = nullptr;
+
+    // Reports and Help menus: the documents
+    QAction* mnuReportsUnlistedMachines = nullptr;
+    QAction* mnuHelpHeritage = nullptr;
+    QAction* mnuHelpCommandLines = nullptr;
+    QAction* mnuHelpDefaultKeys = nullptr;
+    QAction* mnuHelpBGFX = nullptr;
+    QAction* mnuHelpHLSL = nullptr;
+    QAction* mnuHelpGLSL = nullptr;
+    QMenu* mnuHelp = nullptr;
+    QAction* mnuHelpNews = nullptr;
+    QAction* mnuHelpUpdate = nullptr;
 
     // Pages: one of them is on show at a time
     QStackedWidget* pages = nullptr;
     QGroupBox* fraList = nullptr;
     QGroupBox* fraVerify = nullptr;
-    QGroupBox* fraDefaults = nullptr;
+    VerifyPage* verifyPage = nullptr; // fraVerify as the page it is
+    SettingsPage* fraDefaults = nullptr;
     QGroupBox* fraMaintenance = nullptr;
+    MaintenancePage* maintenancePage = nullptr; // fraMaintenance as the page it is
     QGroupBox* fraPleaseWait = nullptr;
     std::array<QLabel*, 5> lblRefresh{};
 
@@ -67,10 +141,17 @@ struct MainControls {
     MachineListView* lvUnavailable = nullptr;
     QWidget* otherPage = nullptr;
     MachineListView* lvOther = nullptr;
-    MachineListView* lvSoftware = nullptr;
+    SoftwarePanel* picSoftware = nullptr; // beside lvOther
+    SoftwareListView* lvSoftware = nullptr;
     LinkLabel* lblToggle = nullptr;
 
     QTextBrowser* rtfVerify = nullptr;
+    InfoSourceList* lstInfo = nullptr;
+
+    // The snapshot under the lists, the cabinet icon and the artwork sign beside them
+    SnapshotPane* picShots = nullptr;
+    QLabel* picIcon = nullptr;
+    QLabel* lblArtwork = nullptr;
 
     // Details strip and commands
     std::array<QLabel*, 7> lblPanel{};
@@ -79,6 +160,7 @@ struct MainControls {
     QPushButton* cmdInfo = nullptr;
     QPushButton* cmdArcadeSettings = nullptr;
     QPushButton* cmdOtherSettings = nullptr;
+    QComboBox* cboSettings = nullptr; // the class profile of an arcade settings screen
     QPushButton* cmdFind = nullptr;
     QPushButton* cmdExit = nullptr;
     QPushButton* cmdGameList = nullptr;
@@ -87,12 +169,12 @@ struct MainControls {
     QCheckBox* chkAutoRun = nullptr;
     QCheckBox* chkRecord = nullptr;
     QCheckBox* chkPlayback = nullptr;
-    QWidget* picSoftware = nullptr;
+    DownloadPage* fraDownload = nullptr; // shown in a development run only
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
     QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
     QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;
+    QLabel* lblShots = nullptr;     // in picShots
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

@@ -15,6 +15,10 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
+#include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
 
@@ -46,7 +50,7 @@ void frmMain::ConnectControls() {
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
     connect(c.mnuToolsCheckOptions, &QAction::triggered, this, &frmMain::CheckMameOptions);
-    connect(c.cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
     for (auto [box, which] :
@@ -84,19 +88,67 @@ void frmMain::ConnectControls() {
             ShowDetails(*list);
         });
     }
+    ConnectReportControls();
+    ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
-    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
+    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::AvailableDoubleClick);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
-    connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
-        m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
-    });
+    connect(c.lvUnavailable, &MachineListView::RowActivated, this,
+            &frmMain::UnavailableDoubleClick);
+    m_shiftDown.Watch(c.lvAvailable);
+    m_shiftDown.Watch(c.lvUnavailable);
+    m_closeWatch.Watch(this);
+    connect(c.mnuHelpNews, &QAction::triggered, this, &frmMain::News);
+    connect(c.mnuHelpUpdate, &QAction::triggered, this, &frmMain::Update);
+    connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
+    ConnectSoftwareControls();
+    ConnectFavoritesControls();
+    ConnectInformation();
     ConnectSearch();
 }
 
 void frmMain::LinkClicked(int index) {
     switch (index) {
+    case LinkArcadeSettings:
+        SettingsArcade();
+        break;
+    case LinkOtherSettings:
+        SettingsOther();
+        break;
     case LinkExit:
-        close();
+        // On a settings screen the command reads Cancel and leaves the screen.
+        if (SettingsScreenOpen()) {
+            Cancel();
+        } else {
+            close();
+        }
+        break;
+    case LinkOK:
+        OK();
+        break;
+    case LinkRestore:
+        Restore();
+        break;
+    case LinkCancel:
+        Cancel();
+        break;
+    case LinkHLSLPath:
+        HLSLPath();
+        break;
+    case LinkHLSLDefaults:
+        SetDefaultsOf(DefaultsGroup::HLSL);
+        break;
+    case LinkYIQDefaults:
+        SetDefaultsOf(DefaultsGroup::YIQ);
+        break;
+    case LinkVectorPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Vector);
+        break;
+    case LinkBloomPostDefaults:
+        SetDefaultsOf(DefaultsGroup::Bloom);
+        break;
+    case LinkBGFXPath:
+        BGFXPath();
         break;
     case LinkStart:
         if (m_inOtherView) {
@@ -110,6 +162,15 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkAudit:
+        Audit();
+        break;
+    case LinkInfo:
+        Info();
+        break;
+    case LinkListSlots:
+        ListSlots();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -169,10 +230,6 @@ void frmMain::AutoRunAtStart() {
     PlayArcade();
 }
 
-void frmMain::NewsAtStart() {
-    // Without a project site address there is no news to fetch, and the step is silent.
-}
-
 void frmMain::StartScrolling() {
     // The information line arrives with the information panel.
 }
@@ -211,7 +268,6 @@ void frmMain::DisableFormButtons() {
           static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
         control->setEnabled(false);
     }
-    c.picSoftware->hide();
     SetFamilyCheckBoxes(false);
 }
 
@@ -243,16 +299,7 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
     }
 }
 
-bool frmMain::HasCommand(int link) const {
-    // The settings screens, the audit and the information panel are not built yet: their
-    // buttons and links stay out of sight until they are.
-    return link != LinkArcadeSettings && link != LinkOtherSettings && link != LinkAudit &&
-           link != LinkInfo;
-}
-
 void frmMain::SetStartCommands(bool enabled) {
-    // Other machines start from their software panel, which is not built yet.
-    enabled = enabled && !m_inOtherView;
     m_controls.cmdStart->setEnabled(enabled);
     m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
 }
@@ -269,10 +316,11 @@ void frmMain::SetLinksOrButtons() {
                                               {c.cmdInfo, LinkInfo},
                                               {c.cmdGameList, LinkReturnList1}};
     for (const auto& [button, link] : twins) {
-        const bool shown = HasCommand(link);
-        button->setVisible(!links && shown);
-        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links && shown);
+        button->setVisible(!links);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
+    c.verifyPage->SetUseLinks(links);
+    c.maintenancePage->SetUseLinks(links);
 }
 
 void frmMain::EmptyTempFolder() {
@@ -322,14 +370,25 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     QWidget* page = m_controls.pages->currentWidget();
     if (page == m_controls.fraList) {
         LinkClicked(LinkStart);
+    } else if (page == m_controls.fraDefaults) {
+        OK();
     } else if (page == m_controls.fraVerify) {
-        ReturnList1();
+        if (m_controls.cmdGameList->isEnabled()) { // not while a report is being made
+            ReturnList1();
+        }
     } else if (page == m_controls.fraMaintenance) {
         ReturnList2();
     }
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (m_verifyRunning) {
+        // MAME is stopped first; the window closes when the verification has ended.
+        m_closeAfterVerify = true;
+        CancelVerify();
+        event->ignore();
+        return;
+    }
     // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
     const bool settingsOpen = m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
                               m_controls.lblBLinks[LinkExit]->Caption() == QStringLiteral("Cancel");

@@ -169,7 +169,7 @@ bool frmMain::RebuildCatalogue(bool newMame) {
         PurgeAllFavorites();
         std::error_code ignored;
         std::filesystem::remove(m_context.data.Output() / "changedroms.txt", ignored);
-        KillSoftsOther(m_context.data.Software(), "");
+        coinlight::KillSoftsOther(m_context.data.Software(), "");
     }
     flags.listsRegenerating = false;
     return created && !flags.fatalErrorFlag;

@@ -42,6 +42,9 @@ bool frmMain::OpenOptions(bool firstRun) {
         SetLinksOrButtons();
         ApplyListsAppearance();
     }
+    if (outcome.softwarePathChanged) {
+        KillSoftsOther({}); // availability was measured against the old folders
+    }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
     if (outcome.filtersChanged || outcome.pathsChanged) {
@@ -124,6 +127,7 @@ void frmMain::CreateMAMEIni() {
         base.machine = std::string(row->ShortName());
     }
     base.boxes = CurrentStartBoxes();
+    FillSoftwareState(base);
     if (const auto failure = coinlight::CreateMAMEIni(m_context.preferences, base)) {
         ShowMessage(m_prompter, *failure);
         m_context.flags.fatalErrorFlag = true;
@@ -183,7 +187,6 @@ void frmMain::PlayArcade() {
         ShowMessage(m_prompter, *plan.strayIniWarning);
     }
     m_commandString = plan.commandLine;
-
     if (!RunEmulator(m_commandString)) {
         return;
     }
@@ -226,10 +229,6 @@ bool frmMain::RunEmulator(const std::string& commandLine) {
     return true;
 }
 
-void frmMain::PlayOther() {
-    // Starting other machines needs their software panel; until it exists they cannot start.
-}
-
 void frmMain::ShowStandardOutput(const std::string& text) {
     m_controls.lblScroll->setText(
         QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUpper().simplified());
@@ -237,20 +236,20 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
     // A value MAME refused is named with the setting that holds it.
-    const std::string named = NameRejectingControls(text);
-    m_controls.rtfVerify->setPlainText(
-        QString::fromUtf8(named.data(), static_cast<qsizetype>(named.size())));
-    ShowPage(m_controls.fraVerify);
+    ShowTextPage(QStringLiteral("MAME Error Output"), NameRejectingControls(text), true);
 }
 
 void frmMain::Find() {
-    const bool mameIniRole =
-        m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
-        m_controls.lblBLinks[LinkFind]->Caption() == QStringLiteral("MAME.Ini");
-    if (!mameIniRole) {
-        return; // the other roles of this command come with their reports
+    // The caption says the role: the report page turns the button into its own commands.
+    const QString role = m_controls.cmdFind->text();
+    if (role == QStringLiteral("&Print")) {
+        PrintReportPage();
+        return;
+    }
+    if (role != QStringLiteral("&MAME.Ini")) {
+        ListBadSets();
+        return;
     }
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {

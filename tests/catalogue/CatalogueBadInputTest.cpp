@@ -50,10 +50,18 @@ void ExpectFailureThenRecovery(CatalogueFolder& folder, const std::function<void
     EXPECT_TRUE(std::filesystem::exists(folder.Output() / "softfilter.ini"));
 }
 
+using Spoil = std::function<void(CatalogueFolder&)>;
+
 /// Replaces the machine list with `xml`.
-std::function<void()> MachineXml(CatalogueFolder& folder, std::string xml) {
-    return [&folder, xml] {
+Spoil MachineXml(std::string xml) {
+    return [xml](CatalogueFolder& folder) {
         WriteFile(folder.Output() / "machine.xml", xml);
+    };
+}
+
+Spoil ListsTxt(std::string text) {
+    return [text](CatalogueFolder& folder) {
+        WriteFile(folder.Support() / "lists.txt", text);
     };
 }
 
@@ -61,75 +69,63 @@ std::string Fixture() {
     return ReadFile(FixturesFolder() / "catalogue" / "machine.xml");
 }
 
+std::string FixtureCutAt(const std::string& text) {
+    const std::string xml = Fixture();
+    return xml.substr(0, xml.find(text));
+}
+
+struct BadInput {
+    const char* what;
+    Spoil spoil;
+    std::string error; // after "Error In CreateSupportFiles: "
+    bool withAdvice = false;
+};
+
 } // namespace
 
-TEST(CatalogueBadInput, AFileCutOffInsideAMachine) {
-    CatalogueFolder folder;
-    const std::string xml = Fixture();
-    ExpectFailureThenRecovery(
-        folder, MachineXml(folder, xml.substr(0, xml.find("<driver status=\"good\""))),
-        "Error In CreateSupportFiles: Input past end of file\nLine Number: 800");
-}
-
-TEST(CatalogueBadInput, AFileCutOffInsideADeviceOrASkippedMachine) {
-    CatalogueFolder folder;
-    const std::string xml = Fixture();
-    ExpectFailureThenRecovery(
-        folder, MachineXml(folder, xml.substr(0, xml.find("<chip type=\"cpu\" tag=\"cpunorom\""))),
-        "Error In CreateSupportFiles: Input past end of file\nLine Number: 40");
-    // An unlisted machine is skipped to its end, which never comes.
-    ExpectFailureThenRecovery(
-        folder, MachineXml(folder, xml.substr(0, xml.find("<manufacturer>Nobody"))),
-        "Error In CreateSupportFiles: Input past end of file\nLine Number: 802");
-}
-
-TEST(CatalogueBadInput, AnEmptyFileOrGarbageLeavesNoFilterFileToSpace) {
-    CatalogueFolder folder;
-    const std::string noFilterFile =
-        std::string("Error In CreateSupportFiles: File not found\nLine Number: 110") +
-        Advice(folder);
-    ExpectFailureThenRecovery(folder, MachineXml(folder, ""), noFilterFile);
+TEST(CatalogueBadInput, EachBadInputIsToldLeavesTheOldFilesAndAGoodRunMendsIt) {
     std::string garbage;
     for (int i = 0; i < 65536; ++i) {
         garbage.push_back(static_cast<char>((i * 7919 + i / 13) & 0xFF));
     }
-    ExpectFailureThenRecovery(folder, MachineXml(folder, garbage), noFilterFile);
-}
-
-TEST(CatalogueBadInput, AMissingMachineListOrListsFileWithoutItsOtherLine) {
+    std::string longRomName = Fixture();
+    longRomName.replace(longRomName.find("<rom name=\"d.4\""), 15,
+                        "<rom name=\"" + std::string(40000, 'n') + "\"");
+    const auto manyOthers = GenerateMachines(32768, "o", "lcd");
+    const std::vector<BadInput> inputs = {
+        {"cut off inside a machine", MachineXml(FixtureCutAt("<driver status=\"good\"")),
+         "Input past end of file\nLine Number: 800"},
+        {"cut off inside a device", MachineXml(FixtureCutAt("<chip type=\"cpu\" tag=\"cpunorom\"")),
+         "Input past end of file\nLine Number: 40"},
+        // An unlisted machine is skipped to its end, which never comes.
+        {"cut off inside a skipped machine", MachineXml(FixtureCutAt("<manufacturer>Nobody")),
+         "Input past end of file\nLine Number: 802"},
+        // Neither leaves a filter file to space.
+        {"an empty file", MachineXml(""), "File not found\nLine Number: 110", true},
+        {"binary garbage", MachineXml(garbage), "File not found\nLine Number: 110", true},
+        {"no machine list",
+         [](CatalogueFolder& folder) { std::filesystem::remove(folder.Output() / "machine.xml"); },
+         "File not found\nLine Number: 40", true},
+        {"lists.txt without its Other line",
+         ListsTxt("Arcade\r\n|alpha|\r\nOthers\r\n|console|\r\n"),
+         "Input past end of file\nLine Number: 52"},
+        {"a line beyond sixteen-bit positions", MachineXml(longRomName),
+         "Overflow\nLine Number: 807"},
+        {"more other machines than sixteen bits count",
+         [&](CatalogueFolder& folder) {
+             MachineXml(manyOthers.xml)(folder);
+             ListsTxt("Arcade\n|\nOther\n" + manyOthers.listLine + "\n")(folder);
+         },
+         "Overflow\nLine Number: 816"},
+    };
     CatalogueFolder folder;
-    ExpectFailureThenRecovery(
-        folder, [&] { std::filesystem::remove(folder.Output() / "machine.xml"); },
-        std::string("Error In CreateSupportFiles: File not found\nLine Number: 40") +
-            Advice(folder));
-    ExpectFailureThenRecovery(
-        folder,
-        [&] {
-            WriteFile(folder.Support() / "lists.txt",
-                      "Arcade\r\n|alpha|\r\nOthers\r\n|console|\r\n");
-        },
-        "Error In CreateSupportFiles: Input past end of file\nLine Number: 52");
-}
-
-TEST(CatalogueBadInput, ALineBeyondSixteenBitPositions) {
-    CatalogueFolder folder;
-    std::string xml = Fixture();
-    xml.replace(xml.find("<rom name=\"d.4\""), 15, "<rom name=\"" + std::string(40000, 'n') + "\"");
-    ExpectFailureThenRecovery(folder, MachineXml(folder, xml),
-                              "Error In CreateSupportFiles: Overflow\nLine Number: 807");
-}
-
-TEST(CatalogueBadInput, MoreOtherMachinesThanSixteenBitsCount) {
-    CatalogueFolder folder;
-    const auto machines = GenerateMachines(32768, "o", "lcd");
-    ExpectFailureThenRecovery(
-        folder,
-        [&] {
-            WriteFile(folder.Output() / "machine.xml", machines.xml);
-            WriteFile(folder.Support() / "lists.txt",
-                      "Arcade\n|\nOther\n" + machines.listLine + "\n");
-        },
-        "Error In CreateSupportFiles: Overflow\nLine Number: 816");
+    for (const BadInput& input : inputs) {
+        SCOPED_TRACE(input.what);
+        ExpectFailureThenRecovery(
+            folder, [&] { input.spoil(folder); },
+            "Error In CreateSupportFiles: " + input.error +
+                (input.withAdvice ? Advice(folder) : ""));
+    }
 }
 
 TEST(CatalogueBadInput, AnOutputFolderThatCannotBeWritten) {

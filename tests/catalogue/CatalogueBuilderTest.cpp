@@ -81,33 +81,27 @@ TEST(CatalogueBuilder, DeviceRomsComeOutTheSameWhetherTheFirstPassIsEarlyOrLate)
     EXPECT_NE(late.other.find("\"No\",\"No\",\"Catver.ini Not Found\""), std::string::npos);
 }
 
-TEST(CatalogueBuilder, AnUnreadableDeviceNameFailsOnlyWhenItsTurnComes) {
-    // After a reference to a device with ROMs the rest are never looked at.
+TEST(CatalogueBuilder, TheFailureToldIsTheFirstInTheFileWhenEverTheFirstPassEnds) {
     const std::string unread = "\t\t<device_ref name=\"open/>\n";
-    const std::string harmless =
-        "<mame>\n" + Machine("a", "\t\t<device_ref name=\"romdev\"/>\n" + unread) + "</mame>\n";
-    EXPECT_FALSE(Build(harmless, false).error);
-    EXPECT_FALSE(Build(harmless, true).error);
-
-    const std::string fatal =
-        "<mame>\n" + Machine("a", unread + "\t\t<device_ref name=\"romdev\"/>\n") + "</mame>\n";
-    for (const bool late : {false, true}) {
-        const auto built = Build(fatal, late);
-        ASSERT_TRUE(built.error);
-        EXPECT_EQ(built.error->number, kErrorInvalidCall);
-        EXPECT_EQ(built.error->location, 808);
-    }
-}
-
-TEST(CatalogueBuilder, AnEarlierFailureWinsOverALaterOne) {
-    // The unreadable reference comes first in the file; the overflow after it would be
-    // met first by a second pass that had to wait for the device list.
-    const std::string xml = "<mame>\n" + Machine("a", "\t\t<device_ref name=\"open/>\n") +
-                            "\t<machine name=\"" + std::string(40000, 'x') + "\">\n</mame>\n";
-    for (const bool late : {false, true}) {
-        const auto built = Build(xml, late);
-        ASSERT_TRUE(built.error);
-        EXPECT_EQ(built.error->location, 808);
+    const std::string romDevice = "\t\t<device_ref name=\"romdev\"/>\n";
+    const std::vector<std::pair<std::string, std::optional<int>>> cases = {
+        // After a reference to a device with ROMs the rest are never looked at.
+        {Machine("a", romDevice + unread), std::nullopt},
+        {Machine("a", unread + romDevice), 808},
+        // A second pass that waited for the device list would meet the overflow first.
+        {Machine("a", unread) + "\t<machine name=\"" + std::string(40000, 'x') + "\">\n", 808},
+    };
+    for (std::size_t row = 0; row < cases.size(); ++row) {
+        for (const bool late : {false, true}) {
+            SCOPED_TRACE("case " + std::to_string(row) + (late ? ", late" : ", early"));
+            const auto built = Build("<mame>\n" + cases[row].first + "</mame>\n", late);
+            const auto location = cases[row].second;
+            ASSERT_EQ(built.error.has_value(), location.has_value());
+            if (location) {
+                EXPECT_EQ(built.error->number, kErrorInvalidCall);
+                EXPECT_EQ(built.error->location, *location);
+            }
+        }
     }
 }
 

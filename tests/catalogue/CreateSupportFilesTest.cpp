@@ -28,10 +28,11 @@ const MachineRecord& Find(const RecordLoad<MachineRecord>& load, std::string_vie
     return *at;
 }
 
-std::vector<std::string_view> Fields(const MachineRecord& record) {
-    std::vector<std::string_view> fields;
+/// The fields of a record in column order, joined by '|'.
+std::string Fields(const MachineRecord& record) {
+    std::string fields;
     for (std::size_t column = 0; column < kMachineFieldCount; ++column) {
-        fields.push_back(record.Field(column));
+        fields += (column == 0 ? "" : "|") + std::string(record.Field(column));
     }
     return fields;
 }
@@ -56,51 +57,13 @@ TEST(CreateSupportFiles, SortsMachinesIntoTheInfoFilesWithEveryField) {
     EXPECT_EQ(result.counts.other, 3);
 
     EXPECT_EQ(Fields(Find(arcade, "alpha")),
-              (std::vector<std::string_view>{"Alpha & Omega Deluxe Turbo",
-                                             "1981",
-                                             "Imperfect",
-                                             "Imperfect",
-                                             "Unemulated",
-                                             "Good",
-                                             "Joy, Joy",
-                                             "Acme & Sons",
-                                             "Raster",
-                                             "288x224",
-                                             "Vertical",
-                                             "60.606061",
-                                             "alpha",
-                                             "Parent",
-                                             "N/A",
-                                             "N/A",
-                                             "test/alpha.cpp",
-                                             "N/A",
-                                             "Yes",
-                                             "Yes",
-                                             "No",
-                                             "Catver.ini Not Found"}));
+              "Alpha & Omega Deluxe Turbo|1981|Imperfect|Imperfect|Unemulated|Good|Joy, Joy|"
+              "Acme & Sons|Raster|288x224|Vertical|60.606061|alpha|Parent|N/A|N/A|"
+              "test/alpha.cpp|N/A|Yes|Yes|No|Catver.ini Not Found");
     EXPECT_EQ(Fields(Find(other, "console")),
-              (std::vector<std::string_view>{"Console",
-                                             "1985",
-                                             "Good",
-                                             "Good",
-                                             "Good",
-                                             "Good",
-                                             "N/A",
-                                             "Consoles Inc.",
-                                             "Raster",
-                                             "256x240",
-                                             "Horizontal",
-                                             "60.098814",
-                                             "console",
-                                             "Parent",
-                                             "cart;quik",
-                                             "console;console_cass",
-                                             "test/console.cpp",
-                                             "N/A",
-                                             "No",
-                                             "Yes",
-                                             "Yes",
-                                             "Catver.ini Not Found"}));
+              "Console|1985|Good|Good|Good|Good|N/A|Consoles Inc.|Raster|256x240|Horizontal|"
+              "60.098814|console|Parent|cart;quik|console;console_cass|test/console.cpp|N/A|No|"
+              "Yes|Yes|Catver.ini Not Found");
     const auto& beta = Find(arcade, "beta");
     EXPECT_EQ(beta.Field(F::Year), "Unknown");
     EXPECT_EQ(beta.Field(F::Manufacturer), "Unknown");

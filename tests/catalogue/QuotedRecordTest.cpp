@@ -90,20 +90,6 @@ TEST(QuotedRecord, ShortLineThrowsLaterRecordsOutOfStepAndEndsPastTheEnd) {
     EXPECT_EQ(load.unfinished.back(), "121");
 }
 
-TEST(QuotedRecord, ReadMachineRecordStreamsAndStopsAtTheEnd) {
-    std::string text;
-    AppendQuotedRecord(text, SampleMachine("a").values);
-    AppendQuotedRecord(text, SampleMachine("b").values);
-    QuotedFieldReader reader(text);
-    MachineFields fields;
-    ASSERT_TRUE(ReadMachineRecord(reader, fields));
-    EXPECT_EQ(fields[MachineField::Rom], "a");
-    ASSERT_TRUE(ReadMachineRecord(reader, fields));
-    EXPECT_EQ(fields[MachineField::Rom], "b");
-    EXPECT_TRUE(reader.AtEnd());
-    EXPECT_FALSE(ReadMachineRecord(reader, fields));
-}
-
 TEST(QuotedRecord, OtherRecordKindsAndAMissingFile) {
     TempFolder folder;
     WriteFile(folder / "crcinfo.txt",

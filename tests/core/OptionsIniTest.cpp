@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/ProfileFile.h"
 #include "support/TestFiles.h"
 
 namespace coinlight {
@@ -110,8 +109,6 @@ TEST(OptionsIni, AbsentKeysKeepTheirDefaults) {
         ReadText(folder, "[Miscellaneous]\r\nCoinlight Version=26.01.0\r\n", preferences).status,
         OptionsReadStatus::Ok);
     EXPECT_EQ(preferences.other.theme, "Heritage");
-    EXPECT_EQ(preferences.other.listFontSize, "10");
-    EXPECT_EQ(preferences.other.guiFont, "Verdana");
     EXPECT_TRUE(preferences.other.useLinks);
     EXPECT_EQ(preferences.other.gradientColor, Colour{0x80000010u});
     EXPECT_EQ(preferences.view.listView, "All Arcade Machines");
@@ -269,7 +266,6 @@ TEST(OptionsIni, DiscardDeletesTheFileAndForgetsWhatWasRead) {
     EXPECT_TRUE(preferences.searchPaths.arcadeRoms.empty());
     EXPECT_TRUE(preferences.biosFilter.empty());
     EXPECT_EQ(preferences.other.theme, "Heritage");
-    EXPECT_EQ(ReadProfileValue(file, "MAME", "Executable", "none"), "none");
 }
 
 } // namespace

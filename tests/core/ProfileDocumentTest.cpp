@@ -1,6 +1,8 @@
 #include "core/ProfileDocument.h"
 
 #include <gtest/gtest.h>
+#include <optional>
+#include <tuple>
 
 namespace coinlight {
 namespace {
@@ -19,73 +21,53 @@ const char* const kSample = "[Main]\r\n"
                             "[main]\r\n"
                             "Hidden=yes\r\n";
 
-TEST(ProfileDocument, LooksUpWithoutRegardToCaseAndTrimsBlanks) {
+TEST(ProfileDocument, FindTakesTheFirstSectionAndKeyOfANameWithoutRegardToCase) {
     const ProfileDocument document(kSample);
-    EXPECT_EQ(document.Find("main", "NAME"), "Pac-Man");
-    EXPECT_EQ(document.Find(" Main ", "name"), "Pac-Man");
-    EXPECT_EQ(document.Find("Second", "path"), "c:\\a=b") << "the value follows the first '='";
-    EXPECT_EQ(document.Find("Main", "Empty"), "");
+    const std::vector<std::tuple<std::string, std::string, std::optional<std::string>>> finds = {
+        {"main", "NAME", "Pac-Man"},
+        {" Main ", "name", "Pac-Man"},
+        {"Second", "path", "c:\\a=b"}, // the value follows the first '='
+        {"Main", "Empty", ""},
+        {"Main", "Players", "2"},
+        {"Main", "Hidden", std::nullopt}, // a repeated section is not searched
+        {"Main", "Flag", std::nullopt},   // a line without '='
+        {"Main", "; a comment", std::nullopt},
+        {"Nowhere", "Name", std::nullopt},
+        {"Main", "Missing", std::nullopt},
+    };
+    for (const auto& [section, key, value] : finds) {
+        EXPECT_EQ(document.Find(section, key), value) << section << "/" << key;
+    }
+    // LF lines, a last line without a break, and keys before any section.
+    const ProfileDocument lf("loose=1\n[A]\nx=1\ny=2");
+    EXPECT_FALSE(lf.Find("", "loose"));
+    EXPECT_EQ(lf.Find("A", "x"), "1");
+    EXPECT_EQ(lf.Find("A", "y"), "2");
 }
 
-TEST(ProfileDocument, FirstSectionAndFirstKeyOfANameDecide) {
-    const ProfileDocument document(kSample);
-    EXPECT_EQ(document.Find("Main", "Players"), "2");
-    EXPECT_FALSE(document.Find("Main", "Hidden")) << "a repeated section is not searched";
-}
-
-TEST(ProfileDocument, LinesWithoutEqualsAndCommentsAreNoValues) {
-    const ProfileDocument document(kSample);
-    EXPECT_FALSE(document.Find("Main", "Flag"));
-    EXPECT_FALSE(document.Find("Main", "; a comment"));
-    EXPECT_FALSE(document.Find("Nowhere", "Name"));
-    EXPECT_FALSE(document.Find("Main", "Missing"));
-}
-
-TEST(ProfileDocument, AcceptsLfLinesAndALastLineWithoutBreak) {
-    const ProfileDocument document("[A]\nx=1\ny=2");
-    EXPECT_EQ(document.Find("A", "x"), "1");
-    EXPECT_EQ(document.Find("A", "y"), "2");
-}
-
-TEST(ProfileDocument, KeysBeforeAnySectionAreNotFound) {
-    const ProfileDocument document("loose=1\r\n[A]\r\nx=1\r\n");
-    EXPECT_FALSE(document.Find("", "loose"));
-    EXPECT_EQ(document.Find("A", "x"), "1");
-}
-
-TEST(ProfileDocument, ReplacesAnExistingKeyInPlaceKeepingItsSpelling) {
-    const ProfileDocument document("[A]\r\nFirst=1\r\nSecond=2\r\n");
-    EXPECT_EQ(document.WithValue("a", "FIRST", "9"), "[A]\r\nFirst=9\r\nSecond=2\r\n");
-}
-
-TEST(ProfileDocument, AddsANewKeyAfterTheLastNonEmptyLineOfItsSection) {
-    const ProfileDocument document("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
-    EXPECT_EQ(document.WithValue("A", "z", "3"), "[A]\r\nx=1\r\nz=3\r\n\r\n[B]\r\ny=2\r\n");
-    const ProfileDocument emptySection("[A]\r\n\r\n[B]\r\n");
-    EXPECT_EQ(emptySection.WithValue("A", "k", "v"), "[A]\r\nk=v\r\n\r\n[B]\r\n");
-}
-
-TEST(ProfileDocument, AddsANewSectionAtTheEnd) {
-    const ProfileDocument document("[A]\r\nx=1\r\n");
-    EXPECT_EQ(document.WithValue("New", "k", "v"), "[A]\r\nx=1\r\n[New]\r\nk=v\r\n");
-    EXPECT_EQ(ProfileDocument().WithValue("S", "k", ""), "[S]\r\nk=\r\n");
-}
-
-TEST(ProfileDocument, AKeyWithoutEqualsIsReplacedWhenWritten) {
-    const ProfileDocument document("[A]\r\nFlag\r\n");
-    EXPECT_EQ(document.WithValue("A", "flag", "1"), "[A]\r\nFlag=1\r\n");
-}
-
-TEST(ProfileDocument, DeletesKeysAndSections) {
-    const ProfileDocument document("[A]\r\nx=1\r\ny=2\r\n\r\n[B]\r\nz=3\r\n");
-    EXPECT_EQ(document.WithoutKey("A", "X"), "[A]\r\ny=2\r\n\r\n[B]\r\nz=3\r\n");
-    EXPECT_EQ(document.WithoutSection("a"), "[B]\r\nz=3\r\n");
-    EXPECT_EQ(document.WithoutKey("A", "none"), document.Text());
-}
-
-TEST(ProfileDocument, ClearingASectionKeepsItsHeaderAndSpacing) {
-    const ProfileDocument document("[A]\r\nx=1\r\n;note\r\ny=2\r\n\r\n[B]\r\nz=3\r\n");
-    EXPECT_EQ(document.WithSectionCleared("A"), "[A]\r\n\r\n[B]\r\nz=3\r\n");
+TEST(ProfileDocument, EditsChangeOnlyTheirLinesAndKeepTheSpelling) {
+    const ProfileDocument twoSections("[A]\r\nx=1\r\ny=2\r\n\r\n[B]\r\nz=3\r\n");
+    const std::vector<std::pair<std::string, std::string>> edits = {
+        {ProfileDocument("[A]\r\nFirst=1\r\nSecond=2\r\n").WithValue("a", "FIRST", "9"),
+         "[A]\r\nFirst=9\r\nSecond=2\r\n"},
+        {ProfileDocument("[A]\r\nFlag\r\n").WithValue("A", "flag", "1"), "[A]\r\nFlag=1\r\n"},
+        // A new key goes after the last non-empty line of its section, a new section at the end.
+        {twoSections.WithValue("A", "k", "v"), "[A]\r\nx=1\r\ny=2\r\nk=v\r\n\r\n[B]\r\nz=3\r\n"},
+        {ProfileDocument("[A]\r\n\r\n[B]\r\n").WithValue("A", "k", "v"),
+         "[A]\r\nk=v\r\n\r\n[B]\r\n"},
+        {ProfileDocument("[A]\r\nx=1\r\n").WithValue("New", "k", "v"),
+         "[A]\r\nx=1\r\n[New]\r\nk=v\r\n"},
+        {ProfileDocument().WithValue("S", "k", ""), "[S]\r\nk=\r\n"},
+        {twoSections.WithoutKey("A", "X"), "[A]\r\ny=2\r\n\r\n[B]\r\nz=3\r\n"},
+        {twoSections.WithoutKey("A", "none"), twoSections.Text()},
+        {twoSections.WithoutSection("a"), "[B]\r\nz=3\r\n"},
+        {ProfileDocument("[A]\r\nx=1\r\n;note\r\ny=2\r\n\r\n[B]\r\nz=3\r\n")
+             .WithSectionCleared("A"),
+         "[A]\r\n\r\n[B]\r\nz=3\r\n"},
+    };
+    for (std::size_t row = 0; row < edits.size(); ++row) {
+        EXPECT_EQ(edits[row].first, edits[row].second) << "edit " << row;
+    }
 }
 
 TEST(ProfileDocument, ListsTheEntriesOfASectionInFileOrder) {

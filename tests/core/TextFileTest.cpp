@@ -36,17 +36,6 @@ TEST(TextFile, ReadersAcceptCrLfAndLfAndALastLineWithoutBreak) {
     EXPECT_FALSE(LineReader(folder / "none").IsOpen());
 }
 
-TEST(TextFile, LineReaderHandlesLinesLongerThanItsBuffer) {
-    TempFolder folder;
-    const auto file = folder / "long.txt";
-    const std::string huge(3 * 1024 * 1024 + 17, 'q');
-    WriteFile(file, "a\r\n" + huge + "\r\nb\r");
-    const auto lines = ReadAllLines(file);
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[1], huge);
-    EXPECT_EQ(lines[2], "b");
-}
-
 TEST(TextFile, BytesPassThroughUnchanged) {
     TempFolder folder;
     const auto file = folder / "bytes.txt";

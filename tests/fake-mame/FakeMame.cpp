@@ -5,7 +5,8 @@
 //   fake-mame-data/        the fixtures: listxml.xml, listsoftware.xml, <option>.txt and
 //                          <option>-<machine>.txt for -verifyroms, -listroms, -verifysamples,
 //                          -listsamples, -listslots, -verifysoftware; version.txt
-//   fake-mame-behaviour.txt optional lines: "exit N", "sleep MS", "garbage", "truncate";
+//   fake-mame-behaviour.txt optional lines: "exit N", "sleep MS", "garbage", "truncate",
+//                          "slowlines MS" (reports come a line at a time, MS apart);
 //                          for one list option ("listxml", "listsoftware"): "fail OPTION"
 //                          (half the list, then exit 1), "die OPTION" (half, then killed),
 //                          "hold OPTION" (half, then waits up to 30 s for the file
@@ -157,6 +158,35 @@ void RejectValues(const Behaviour& behaviour) {
     }
 }
 
+/// The pause between the lines of a report, as a verification of thousands of sets has
+/// them; 0 prints the report at once.
+int SlowLineMilliseconds(const fs::path& folder) {
+    std::ifstream in(folder / "fake-mame-behaviour.txt");
+    std::string word;
+    int milliseconds = 0;
+    while (in >> word) {
+        if (word == "slowlines") {
+            in >> milliseconds;
+        }
+    }
+    return milliseconds;
+}
+
+bool PrintFileSlowly(const fs::path& file, int milliseconds) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        return false;
+    }
+    std::string line;
+    while (std::getline(in, line)) {
+        line.push_back('\n');
+        std::fwrite(line.data(), 1, line.size(), stdout);
+        std::fflush(stdout);
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    }
+    return true;
+}
+
 /// The machine named on the line: the first word that is neither an option nor an option's
 /// value.
 std::string MachineOf(const std::vector<std::string>& arguments) {
@@ -227,6 +257,9 @@ int main(int argc, char** argv) {
             if (!(machine.empty() || machine == "*") &&
                 PrintFile(data / (option + "-" + machine + ".txt"), behaviour)) {
                 return behaviour.exitCode;
+            }
+            if (const int slow = SlowLineMilliseconds(folder); slow > 0) {
+                return PrintFileSlowly(data / (option + ".txt"), slow) ? behaviour.exitCode : 1;
             }
             if (!PrintFile(data / (option + ".txt"), behaviour)) {
                 std::cout << "romset \"" << machine << "\" not found!\n";

@@ -29,26 +29,6 @@ TEST(ComboItems, EveryDropDownOffersItsDefault) {
     EXPECT_TRUE(ComboItems("txtHLSL(3)", sources).empty());
 }
 
-TEST(ComboItems, FixedListsAreInTheirOrder) {
-    const ComboSources none;
-    const Items frameSkip = ComboItems("cboFrameSkip", none);
-    ASSERT_EQ(frameSkip.size(), 12u);
-    EXPECT_EQ(frameSkip[0], "Auto");
-    EXPECT_EQ(frameSkip[2], "1 Of 12");
-    EXPECT_EQ(frameSkip[11], "10 Of 12");
-    const Items speed = ComboItems("cboSpeed", none);
-    ASSERT_EQ(speed.size(), 300u);
-    EXPECT_EQ(speed.front(), "1%");
-    EXPECT_EQ(speed.back(), "300%");
-    const Items volume = ComboItems("cboVolume", none);
-    ASSERT_EQ(volume.size(), 33u);
-    EXPECT_EQ(volume.front(), "-32dB");
-    EXPECT_EQ(volume[31], "-1dB");
-    EXPECT_EQ(volume.back(), "0dB");
-    EXPECT_EQ(ComboItems("cboInputDev(5)", none),
-              (Items{"None", "Keyboard", "Mouse", "Joystick", "Lightgun"}));
-}
-
 TEST(ComboItems, DecimalStepsAreSummedInSinglePrecision) {
     const ComboSources none;
     const Items brightness = ComboItems("cboBrightness", none);

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <initializer_list>
 
 #include "core/TextFile.h"
 #include "settings/BuildIni.h"
@@ -35,8 +34,10 @@ Preferences SomePaths(const std::filesystem::path& ini) {
     return preferences;
 }
 
+using ProfileValues = std::vector<std::pair<const char*, const char*>>;
+
 /// The mame.ini lines a profile holding `values` (key, value pairs) gives.
-Lines ProfileLines(std::initializer_list<std::pair<const char*, const char*>> values) {
+Lines ProfileLines(const ProfileValues& values) {
     OptionValues options;
     for (const auto& [key, value] : values) {
         EXPECT_TRUE(options.Set(key, value)) << key;
@@ -178,20 +179,65 @@ TEST(MameIniBase, CreateMAMEIniWritesCrLfAndNeedsAnIniFolder) {
     EXPECT_TRUE(CreateMAMEIni(SomePaths(folder / "no such folder"), {}).has_value());
 }
 
-TEST(ProfileSections, FrameSkipSpeedAndVolumeAreTranslated) {
-    Lines lines = ProfileLines({{"Frame Skip", "Auto"}, {"Speed", "150%"}, {"Volume", "-12dB"}});
-    EXPECT_EQ(LineOf(lines, "autoframeskip"), "autoframeskip\t1");
-    EXPECT_EQ(LineOf(lines, "frameskip"), "frameskip\t0");
-    EXPECT_EQ(LineOf(lines, "speed"), "speed\t1.50");
-    EXPECT_EQ(LineOf(lines, "volume"), "volume\t-12");
-    lines = ProfileLines({{"Frame Skip", "10 Of 12"}, {"Speed", "1%"}});
-    EXPECT_EQ(LineOf(lines, "autoframeskip"), "autoframeskip\t0");
-    EXPECT_EQ(LineOf(lines, "frameskip"), "frameskip\t10");
-    EXPECT_EQ(LineOf(lines, "speed"), "speed\t0.01");
-    EXPECT_EQ(LineOf(ProfileLines({{"Frame Skip", "7 Of 12"}}), "frameskip"), "frameskip\t7");
-    EXPECT_EQ(LineOf(ProfileLines({}), "frameskip"), "frameskip\t0");
-    EXPECT_EQ(LineOf(ProfileLines({}), "speed"), "speed\t1.00");
+struct Translation {
+    ProfileValues values; // the profile's; none gives the defaults
+    Lines expected;       // some of the mame.ini lines it gives
+};
 
+TEST(ProfileSections, EachProfileValueGivesItsMameIniLines) {
+    const std::vector<Translation> translations = {
+        {{},
+         {"frameskip\t0", "speed\t1.00", "ror\t0", "autorol\t0", "ctrlr", "bios", "language",
+          "audio_latency\t0.0", "screen\tauto", "bgfx_path\tbgfx"}},
+        {{{"Frame Skip", "Auto"}, {"Speed", "150%"}, {"Volume", "-12dB"}},
+         {"autoframeskip\t1", "frameskip\t0", "speed\t1.50", "volume\t-12"}},
+        {{{"Frame Skip", "10 Of 12"}, {"Speed", "1%"}},
+         {"autoframeskip\t0", "frameskip\t10", "speed\t0.01"}},
+        {{{"Frame Skip", "7 Of 12"}}, {"frameskip\t7"}},
+        {{{"Roll", "AutoRight"}, {"Flip", "Horizontally"}},
+         {"ror\t0", "rol\t0", "autoror\t1", "autorol\t0", "flipx\t0", "flipy\t1"}},
+        {{{"Roll", "Left"}, {"Flip", "Vertically"}}, {"rol\t1", "flipx\t1", "flipy\t0"}},
+        {{{"Flip", "Both"}}, {"flipx\t1", "flipy\t1"}},
+        {{{"Controller Config", "XArcade.cfg"},
+          {"BIOS", "Europe MVS (Ver. 2)> Euro"},
+          {"Language", "German"},
+          {"Audio Latency", "2/5 To 3/5"}},
+         {"ctrlr\txarcade", "bios\teuro", "language\tgerman", "audio_latency\t2"}},
+        {{{"BIOS", "XEuro"}, {"Audio Latency", "4/5 To 5/5"}}, {"bios\teuro", "audio_latency\t4"}},
+        {{{"Controller Config", "cfg"}, {"Audio Latency", "1/5 TO 2/5"}},
+         {"ctrlr\t", "audio_latency\t1/5 to 2/5"}},
+        // Screens and paths keep their case where it matters.
+        {{{"Screens", "\\\\.\\DISPLAY2"},
+          {"Screen0", "\\\\.\\DISPLAY1"},
+          {"Screen1", "Auto"},
+          {"BGFX Path", "/home/Me/BGFX Shaders"},
+          {"HLSL Path", "C:\\MAME\\HLSL"},
+          {"Video", "OpenGL"},
+          {"Effect", "Scanlines"},
+          {"UI Mode Key", "SCRLOCK"},
+          {"GLSL Shader MAME 0", "/Shaders/Glow"}},
+         {"screen\t\\\\.\\DISPLAY2", "screen0\t\\\\.\\display1", "screen1\tauto",
+          "bgfx_path\t/home/Me/BGFX Shaders", "hlslpath\tC:\\MAME\\HLSL", "video\topengl",
+          "effect\tscanlines", "uimodekey\tSCRLOCK", "glsl_shader_mame0\t/Shaders/Glow"}},
+        // Fixed lines, and options without a value.
+        {{{"Plugin Enable", ""}},
+         {"plugin\t", "seconds_to_run\t0", "ui\tcabinet", "glsl_shader_screen9\tnone",
+          "debugscript", "attach_window"}},
+    };
+    for (const Translation& translation : translations) {
+        std::string profile;
+        for (const auto& [key, value] : translation.values) {
+            profile += std::string(key) + "=" + value + "; ";
+        }
+        SCOPED_TRACE(profile);
+        const Lines lines = ProfileLines(translation.values);
+        for (const std::string& expected : translation.expected) {
+            EXPECT_EQ(LineOf(lines, expected.substr(0, expected.find('\t'))), expected);
+        }
+    }
+}
+
+TEST(ProfileSections, SpeedsAreHundredthsRoundedHalfUp) {
     EXPECT_EQ(HundredthsText("33.5"), "0.34");
     EXPECT_EQ(HundredthsText("14.5"), "0.15"); // 0.145 has no exact binary form
     EXPECT_EQ(HundredthsText(" 99.5 "), "1.00");
@@ -203,85 +249,16 @@ TEST(ProfileSections, FrameSkipSpeedAndVolumeAreTranslated) {
     }
 }
 
-TEST(ProfileSections, RollAndFlipWriteTheirLinesOnlyForWordsTheyKnow) {
-    Lines lines = ProfileLines({});
-    EXPECT_EQ(LineOf(lines, "ror"), "ror\t0");
-    EXPECT_EQ(LineOf(lines, "autorol"), "autorol\t0");
-    lines = ProfileLines({{"Roll", "AutoRight"}, {"Flip", "Horizontally"}});
-    EXPECT_EQ(LineOf(lines, "ror"), "ror\t0");
-    EXPECT_EQ(LineOf(lines, "rol"), "rol\t0");
-    EXPECT_EQ(LineOf(lines, "autoror"), "autoror\t1");
-    EXPECT_EQ(LineOf(lines, "autorol"), "autorol\t0");
-    EXPECT_EQ(LineOf(lines, "flipx"), "flipx\t0");
-    EXPECT_EQ(LineOf(lines, "flipy"), "flipy\t1");
-    lines = ProfileLines({{"Roll", "Left"}, {"Flip", "Vertically"}});
-    EXPECT_EQ(LineOf(lines, "rol"), "rol\t1");
-    EXPECT_EQ(LineOf(lines, "flipx"), "flipx\t1");
-    EXPECT_EQ(LineOf(lines, "flipy"), "flipy\t0");
-    lines = ProfileLines({{"Flip", "Both"}});
-    EXPECT_EQ(LineOf(lines, "flipx"), "flipx\t1");
-    EXPECT_EQ(LineOf(lines, "flipy"), "flipy\t1");
-
-    lines = ProfileLines({{"Roll", "right"}, {"Flip", "Diagonally"}});
+TEST(ProfileSections, RollAndFlipWordsTheyDoNotKnowWriteNoLines) {
+    const Lines lines = ProfileLines({{"Roll", "right"}, {"Flip", "Diagonally"}});
     for (const char* gone : {"ror", "rol", "autoror", "autorol", "flipx", "flipy"}) {
         EXPECT_TRUE(LinesOf(lines, gone).empty()) << gone;
     }
     EXPECT_EQ(LineOf(lines, "rotate"), "rotate\t1");
 }
 
-TEST(ProfileSections, ControllerBiosLanguageAndLatencyHaveTheirOwnRules) {
-    Lines lines = ProfileLines({});
-    EXPECT_EQ(LineOf(lines, "ctrlr"), "ctrlr");
-    EXPECT_EQ(LineOf(lines, "bios"), "bios");
-    EXPECT_EQ(LineOf(lines, "language"), "language");
-    EXPECT_EQ(LineOf(lines, "audio_latency"), "audio_latency\t0.0");
-    lines = ProfileLines({{"Controller Config", "XArcade.cfg"},
-                          {"BIOS", "Europe MVS (Ver. 2)> Euro"},
-                          {"Language", "German"},
-                          {"Audio Latency", "2/5 To 3/5"}});
-    EXPECT_EQ(LineOf(lines, "ctrlr"), "ctrlr\txarcade");
-    EXPECT_EQ(LineOf(lines, "bios"), "bios\teuro");
-    EXPECT_EQ(LineOf(lines, "language"), "language\tgerman");
-    EXPECT_EQ(LineOf(lines, "audio_latency"), "audio_latency\t2");
-    lines = ProfileLines({{"BIOS", "XEuro"}, {"Audio Latency", "4/5 To 5/5"}});
-    EXPECT_EQ(LineOf(lines, "bios"), "bios\teuro");
-    EXPECT_EQ(LineOf(lines, "audio_latency"), "audio_latency\t4");
-    lines = ProfileLines({{"Controller Config", "cfg"}, {"Audio Latency", "1/5 TO 2/5"}});
-    EXPECT_EQ(LineOf(lines, "ctrlr"), "ctrlr\t");
-    EXPECT_EQ(LineOf(lines, "audio_latency"), "audio_latency\t1/5 to 2/5");
-}
-
-TEST(ProfileSections, ScreensAndPathsKeepTheirCaseWhereItMatters) {
-    const Lines lines = ProfileLines({{"Screens", "\\\\.\\DISPLAY2"},
-                                      {"Screen0", "\\\\.\\DISPLAY1"},
-                                      {"Screen1", "Auto"},
-                                      {"BGFX Path", "/home/Me/BGFX Shaders"},
-                                      {"HLSL Path", "C:\\MAME\\HLSL"},
-                                      {"Video", "OpenGL"},
-                                      {"Effect", "Scanlines"},
-                                      {"UI Mode Key", "SCRLOCK"},
-                                      {"GLSL Shader MAME 0", "/Shaders/Glow"}});
-    EXPECT_EQ(LineOf(lines, "screen"), "screen\t\\\\.\\DISPLAY2");
-    EXPECT_EQ(LineOf(lines, "screen0"), "screen0\t\\\\.\\display1");
-    EXPECT_EQ(LineOf(lines, "screen1"), "screen1\tauto");
-    EXPECT_EQ(LineOf(lines, "bgfx_path"), "bgfx_path\t/home/Me/BGFX Shaders");
-    EXPECT_EQ(LineOf(lines, "hlslpath"), "hlslpath\tC:\\MAME\\HLSL");
-    EXPECT_EQ(LineOf(lines, "video"), "video\topengl");
-    EXPECT_EQ(LineOf(lines, "effect"), "effect\tscanlines");
-    EXPECT_EQ(LineOf(lines, "uimodekey"), "uimodekey\tSCRLOCK");
-    EXPECT_EQ(LineOf(lines, "glsl_shader_mame0"), "glsl_shader_mame0\t/Shaders/Glow");
-    EXPECT_EQ(LineOf(ProfileLines({}), "screen"), "screen\tauto");
-    EXPECT_EQ(LineOf(ProfileLines({}), "bgfx_path"), "bgfx_path\tbgfx");
-}
-
-TEST(ProfileSections, FixedLinesHeadingsAndEmptyValues) {
-    const Lines lines = ProfileLines({{"Plugin Enable", ""}, {"Other Commands", "-cheat"}});
-    EXPECT_EQ(LineOf(lines, "plugin"), "plugin\t");
-    EXPECT_EQ(LineOf(lines, "seconds_to_run"), "seconds_to_run\t0");
-    EXPECT_EQ(LineOf(lines, "ui"), "ui\tcabinet");
-    EXPECT_EQ(LineOf(lines, "glsl_shader_screen9"), "glsl_shader_screen9\tnone");
-    EXPECT_EQ(LineOf(lines, "debugscript"), "debugscript");
-    EXPECT_EQ(LineOf(lines, "attach_window"), "attach_window");
+TEST(ProfileSections, SectionsHaveHeadingsAndOtherCommandsGoToTheCommandLine) {
+    const Lines lines = ProfileLines({{"Other Commands", "-cheat"}});
     EXPECT_TRUE(LinesOf(lines, "Other Commands").empty());
     EXPECT_EQ(Lines(lines.begin(), lines.begin() + 5),
               (Lines{"", "#", "# CORE PERFORMANCE OPTIONS", "#", "autoframeskip\t0"}));

@@ -1,13 +1,11 @@
 #include "settings/OptionCatalogue.h"
 
-#include "core/TextCase.h"
-
 #include <gtest/gtest.h>
 #include <set>
 
+#include "core/TextCase.h"
 #include "settings/OptionValues.h"
 #include "settings/ProfileIniLayout.h"
-#include "core/TextCase.h"
 #include "support/TestFiles.h"
 
 namespace coinlight {
@@ -23,17 +21,12 @@ const OptionRow& Row(std::string_view key) {
     return OptionCatalogue()[row.value_or(0)];
 }
 
-TEST(OptionCatalogue, HoldsTheOptionsInProfileOrderWithUniqueNames) {
-    const auto catalogue = OptionCatalogue();
-    ASSERT_EQ(catalogue.size(), 209u);
-    EXPECT_EQ(catalogue.front().key, "Frame Skip");
-    EXPECT_EQ(catalogue.back().key, "Other Commands");
-
+TEST(OptionCatalogue, NamesAreUniqueAndEachSectionIsOneRun) {
     std::vector<std::string_view> sections;
     std::set<std::string> keys;
     std::set<std::string_view> controls;
     std::set<std::string_view> iniOptions;
-    for (const OptionRow& row : catalogue) {
+    for (const OptionRow& row : OptionCatalogue()) {
         if (sections.empty() || sections.back() != row.section) {
             sections.push_back(row.section);
         }
@@ -48,31 +41,14 @@ TEST(OptionCatalogue, HoldsTheOptionsInProfileOrderWithUniqueNames) {
     }
     // A section that came back later would be split in two in every profile.
     EXPECT_EQ(std::set<std::string_view>(sections.begin(), sections.end()).size(), sections.size());
-    EXPECT_EQ(sections.size(), 29u);
-    EXPECT_EQ(sections[15], "OSD Per-Window Video Options");
-    EXPECT_EQ(iniOptions.size(), 213u); // 208 rows, five of them with more than one option
 }
 
-TEST(OptionCatalogue, RowsCarryTheirControlsDefaultsAndOptions) {
-    EXPECT_EQ(Row("Frame Skip").control, "cboFrameSkip");
-    EXPECT_EQ(IniOptionNames(Row("Frame Skip")),
-              (std::vector<std::string_view>{"autoframeskip", "frameskip"}));
-    EXPECT_EQ(IniOptionNames(Row("Roll")),
-              (std::vector<std::string_view>{"ror", "rol", "autoror", "autorol"}));
-    EXPECT_EQ(Row("Mouse Device").control, "cboInputDev(7)");
-    EXPECT_EQ(Row("Mouse Device").defaultValue, "Mouse");
-    EXPECT_EQ(Row("Joystick Threshold").defaultValue, "0.30");
-    EXPECT_EQ(Row("Green Ratio").iniOptions, "grn_ratio");
-    EXPECT_EQ(Row("Chroma Y Gain").defaultValue, "0.2126,0.7152,0.0722");
-    EXPECT_EQ(Row("YIQ CC").defaultValue, "3.57954545");
-    EXPECT_EQ(Row("BGFX Path").rule, IniRule::Path);
-    EXPECT_EQ(Row("Screens").rule, IniRule::Screen);
-    EXPECT_EQ(Row("Screen0").rule, IniRule::Lower);
-    EXPECT_EQ(Row("Fallback Artwork").defaultValue, "");
-    EXPECT_EQ(Row("Other Commands").iniOptions, "");
-    EXPECT_EQ(Row("Other Commands").section, "Miscellaneous");
+TEST(OptionCatalogue, LookUpsIgnoreCaseAndTakeWholeNamesOnly) {
     EXPECT_EQ(Row("bloom blend MODE").control, "txtBloomPost(0)");
     EXPECT_FALSE(FindOptionByKey("Bloom").has_value());
+    EXPECT_EQ(IniOptionNames(Row("Roll")),
+              (std::vector<std::string_view>{"ror", "rol", "autoror", "autorol"}));
+    EXPECT_EQ(FindOptionByIniName("autoframeskip"), FindOptionByKey("Frame Skip"));
     EXPECT_EQ(FindOptionByIniName("frameskip"), std::nullopt); // found by its first option only
 }
 

@@ -44,9 +44,6 @@ TEST_F(LayoutFill, BesideMameRequiredFoldersAreNamedAndOptionalOnesOnlyWhenThere
     EXPECT_EQ(texts[PathField::Hash], "");
     EXPECT_EQ(texts[PathField::Software], "");
     EXPECT_EQ(texts[PathField::Samples], base + "/samples");
-    EXPECT_EQ(texts[PathField::Artwork], base + "/artwork");
-    EXPECT_EQ(texts[PathField::Input], base + "/inp");
-    EXPECT_EQ(texts[PathField::State], base + "/sta");
     EXPECT_EQ(texts[PathField::Ini], "") << "Coinlight's own, never filled";
 }
 
@@ -60,32 +57,24 @@ TEST_F(LayoutFill, AnyOneSubFolderKeepsTheLayoutBesideMame) {
 }
 
 TEST_F(LayoutFill, ThePackagedLayoutTakesSharedDataAndTheUsersFolder) {
-    const std::string roms = Make(m_locations.home / ".mame" / "roms");
+    const std::string roms = (m_locations.home / ".mame" / "roms").string();
     const std::string share = m_locations.distributionData.string();
     Make(m_locations.distributionData / "artwork" / "cabinet");
     PathTexts texts;
     texts[PathField::Samples] = "/mine/samples";
     EXPECT_EQ(FillFromLayout(m_folder / "usr" / "games", m_locations, texts),
               FolderLayout::Distribution);
+    // The one ROM folder is named for every family, made or not.
     EXPECT_EQ(texts[PathField::ArcadeRoms], roms);
     EXPECT_EQ(texts[PathField::OtherRoms], roms);
     EXPECT_EQ(texts[PathField::Software], roms);
     EXPECT_EQ(texts[PathField::Hash], "") << "no hash folder is installed";
     EXPECT_EQ(texts[PathField::Samples], "/mine/samples") << "a filled field is kept";
     EXPECT_EQ(texts[PathField::Artwork], share + "/artwork;" + share + "/artwork/cabinet");
-    EXPECT_EQ(texts[PathField::Controller], share + "/ctrlr");
     EXPECT_EQ(texts[PathField::Cfg], (m_locations.home / ".mame" / "cfg").string());
 }
 
 TEST_F(LayoutFill, WithoutAHomeNoUserFolderIsNamed) {
-    PathTexts texts;
-    FillFromLayout(m_folder / "bin", m_locations, texts);
-    EXPECT_EQ(texts[PathField::ArcadeRoms], (m_locations.home / ".mame" / "roms").string());
-    EXPECT_EQ(texts[PathField::OtherRoms], texts[PathField::ArcadeRoms])
-        << "the one ROM folder is named for every family, made or not";
-    EXPECT_EQ(texts[PathField::Software], texts[PathField::ArcadeRoms]);
-    EXPECT_EQ(texts[PathField::Hash], "") << "an optional folder of MAME's own stays out";
-
     m_locations.home.clear();
     PathTexts homeless;
     FillFromLayout(m_folder / "bin", m_locations, homeless);

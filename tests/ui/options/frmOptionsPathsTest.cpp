@@ -19,8 +19,6 @@ TEST_F(OptionsDialog, AFirstRunStartsFromTheMameOnThePathAndFillsAroundIt) {
     EXPECT_EQ(Text(*form, "txtArcadeROMPath"),
               games + "/roms/arcade;" + games + "/roms/arcade/bios");
     EXPECT_EQ(Text(*form, "txtMESSROMPath"), "") << "no roms/other beside it";
-    EXPECT_EQ(Text(*form, "txtSamPath"), games + "/samples");
-    EXPECT_EQ(Text(*form, "txtDiffPath"), games + "/diff");
     EXPECT_EQ(Text(*form, "txtINIPath"), m_context.data.Temp().string());
 
     m_request.firstRun = false;
@@ -44,8 +42,6 @@ TEST_F(OptionsDialog, APackagedMameIsAcceptedAsFilled) {
         << "not there yet, but OK makes it: a first run fills what any later one fills";
     EXPECT_EQ(Text(*form, "txtMESSSoftwarePath"), roms.string());
     EXPECT_EQ(Text(*form, "txtMESSHashPath"), share + "/hash");
-    EXPECT_EQ(Text(*form, "txtCtrlrPath"), share + "/ctrlr");
-    EXPECT_EQ(Text(*form, "txtNvramPath"), (m_folder / "home" / ".mame" / "nvram").string());
 
     PressOk(*form);
     EXPECT_TRUE(m_prompter.Prompts().empty()) << m_prompter.Texts().join('\n').toStdString();
@@ -64,12 +60,10 @@ TEST_F(OptionsDialog, ChoosingMameFillsOnlyTheEmptyFields) {
     Folder("MAME 0.251/roms/other");
     auto form = Open();
     SetText(*form, "txtSamPath", "/my/samples");
-    SetText(*form, "txtArcadeROMPath", "/my/roms");
     m_prompter.Queue(QString::fromStdString(mame + "/mame"));
     Click(*form, "cmdSelectMAME");
     EXPECT_EQ(Text(*form, "txtMAMEPath"), mame + "/mame");
     EXPECT_EQ(Text(*form, "txtSamPath"), "/my/samples");
-    EXPECT_EQ(Text(*form, "txtArcadeROMPath"), "/my/roms");
     EXPECT_EQ(Text(*form, "txtMESSROMPath"), mame + "/roms/other");
     EXPECT_EQ(Text(*form, "txtMESSHashPath"), "") << "optional and not there";
     EXPECT_EQ(Text(*form, "txtCheatPath"), mame + "/cheat") << "required: named anyway";
@@ -81,17 +75,7 @@ TEST_F(OptionsDialog, ChoosingMameFillsOnlyTheEmptyFields) {
     EXPECT_EQ(m_prompter.Prompts()[0].title, "Select your MAME executable.");
 }
 
-TEST_F(OptionsDialog, MameInTheRootIsRefusedAndNothingIsFilled) {
-    auto form = Open();
-    m_prompter.Queue(QStringLiteral("/mame"));
-    Click(*form, "cmdSelectMAME");
-    EXPECT_EQ(Messages(), Texts{"MAME should not reside in the root."});
-    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
-    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
-    EXPECT_EQ(Text(*form, "txtSamPath"), "");
-}
-
-TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
+TEST_F(OptionsDialog, TheBrowsersAddToMultiPathFieldsAndRefuseTheRoot) {
     auto form = Open();
     SetText(*form, "txtArcadeROMPath", "/a");
     m_prompter.Queue(QStringLiteral("/Mixed Case"));
@@ -116,6 +100,13 @@ TEST_F(OptionsDialog, TheFolderBrowserAddsToMultiPathFieldsAndRefusesTheRoot) {
               (Texts{"Samples should not reside in the root.  Please select a folder.",
                      "Arcade ROMs should not reside in the root.  Please select a folder."}));
     EXPECT_EQ(m_prompter.Prompts().back().title, "Coinlight");
+
+    m_prompter.Queue(QStringLiteral("/mame"));
+    Click(*form, "cmdSelectMAME");
+    EXPECT_EQ(Messages().back(), "MAME should not reside in the root.");
+    EXPECT_EQ(m_prompter.Prompts().back().title, "Options");
+    EXPECT_EQ(Text(*form, "txtMAMEPath"), "");
+    EXPECT_EQ(Text(*form, "txtSamPath"), "") << "nothing is filled around a refused MAME";
 }
 
 TEST_F(OptionsDialog, OkCleansDoubledSeparatorsAndSavesOutputFoldersUnchecked) {

@@ -175,8 +175,6 @@ TEST_F(OptionsPreferences, MyDefaultsTickTheMakersChoiceAndNothingIsKeptOnCancel
         (QStringList{"Hide Calculator / Pocket Systems", "Hide Quiz / Music * Mature * Systems",
                      "Hide Slot Machine / Video Slot Systems", "Hide Tabletop / Mahjong Systems"}));
     EXPECT_TRUE(Box(*form, "chkHideCHD")->isChecked());
-    EXPECT_FALSE(Box(*form, "chkHideImperfect")->isChecked());
-    EXPECT_EQ(Find<QComboBox>(*form, "cboHideYear")->currentText(), "1990");
     EXPECT_EQ(Find<QComboBox>(*form, "cboTheme")->currentText(), "Windows 11 Light");
     Click(*form, "cmdCancel");
     EXPECT_FALSE(OptionsWritten());
