@@ -7,13 +7,13 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "MachineSearchField.h"
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
 #include "ui/online/DownloadPage.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
-#include "MachineSearchField.h"
 
 namespace coinlight {
 
