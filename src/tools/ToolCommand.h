@@ -25,5 +25,6 @@ std::vector<ToolCommand> ReportCommands();
 std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
 std::vector<ToolCommand> OtherLaunchCommands();
+std::vector<ToolCommand> OptionCheckCommands();
 
 } // namespace coinlight

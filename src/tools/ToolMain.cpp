@@ -9,7 +9,7 @@ namespace {
 std::vector<ToolCommand> AllCommands() {
     std::vector<ToolCommand> commands;
     for (auto group : {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands,
-                       InfoCommands, OtherLaunchCommands, ReportCommands}) {
+                       InfoCommands, OtherLaunchCommands, ReportCommands, OptionCheckCommands}) {
         for (const auto& command : group()) {
             commands.push_back(command);
         }

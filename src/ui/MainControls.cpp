@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "MachineSearchField.h"
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
 #include "ui/online/DownloadPage.h"
@@ -84,6 +85,8 @@ void BuildMenus(QMainWindow& window, MainControls& c) {
         AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
     tools->addSeparator();
     c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
+    c.mnuToolsCheckOptions =
+        AddAction(tools, "mnuToolsCheckOptions", QStringLiteral("Check MAME Options"));
 }
 
 /// The menu of that name, made at the end of the bar unless another part made it first.
@@ -214,6 +217,8 @@ QWidget* BuildListFrame(MainControls& c) {
     c.fraList =
         Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
     auto* layout = new QVBoxLayout(c.fraList);
+    c.txtSearch = new MachineSearchField;
+    layout->addWidget(c.txtSearch);
 
     c.lists = Named(new QStackedWidget, QStringLiteral("lists"));
     c.lvAll = new MachineListView("lvAll", false);
@@ -285,9 +290,10 @@ QLayout* BuildDetailsStrip(MainControls& c) {
         c.lblPanel[static_cast<std::size_t>(i)] = label;
         strip->addWidget(label, stretch[i]);
     }
-    // Room for the largest count MAME can have.
+    // Room for the largest count MAME can have, also when a search shows part of it.
     c.lblPanel[0]->setMinimumWidth(
-        c.lblPanel[0]->fontMetrics().horizontalAdvance(QStringLiteral("Machines: 888888")) + 8);
+        c.lblPanel[0]->fontMetrics().horizontalAdvance(QStringLiteral("Machines: 88888 of 88888")) +
+        8);
     return strip;
 }
 

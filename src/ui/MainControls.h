@@ -26,6 +26,7 @@ class MaintenancePage;
 class SnapshotPane;
 class SettingsPage;
 class VerifyPage;
+class MachineSearchField;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -71,6 +72,7 @@ struct MainControls {
     QAction* mnuToolsCustom = nullptr;
     QAction* mnuToolsRebuild = nullptr;
     QAction* mnuReportsRebuild = nullptr;
+    QAction* mnuToolsCheckOptions = nullptr;
     QAction* mnuMainExit = nullptr;
 
     // Reports: the Main menu's audit and export, Maintenance in Tools, the Reports menu and
@@ -132,6 +134,7 @@ struct MainControls {
     std::array<QLabel*, 5> lblRefresh{};
 
     // The lists
+    MachineSearchField* txtSearch = nullptr; // narrows the list on show as the user types
     QStackedWidget* lists = nullptr;
     MachineListView* lvAll = nullptr;
     MachineListView* lvAvailable = nullptr;

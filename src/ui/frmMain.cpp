@@ -49,6 +49,7 @@ void frmMain::ConnectControls() {
         FixAllHidden();
     });
     connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
+    connect(c.mnuToolsCheckOptions, &QAction::triggered, this, &frmMain::CheckMameOptions);
     connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
@@ -103,6 +104,7 @@ void frmMain::ConnectControls() {
     ConnectSoftwareControls();
     ConnectFavoritesControls();
     ConnectInformation();
+    ConnectSearch();
 }
 
 void frmMain::LinkClicked(int index) {

@@ -35,6 +35,7 @@
 namespace coinlight {
 
 class MachineListView;
+class MameOptionsCapture;
 class Prompter;
 class frmCover;
 class frmSplash;
@@ -75,6 +76,18 @@ public:
     void RefreshListsArcade();
     void RefreshListsOther();
     void SortColumn(MachineListView& list, int column);
+
+    // Search
+    /// Puts the cursor in the search field (Ctrl+F, or "/" in a list).
+    void FocusSearch();
+
+    // The options of the MAME in use
+    /// Asks MAME which options it takes and shows those Coinlight writes that it lacks.
+    void CheckMameOptions();
+    /// The settings controls whose options the MAME in use does not take, from what it
+    /// said last; none when it has not been asked. For the settings page, which shows them
+    /// disabled (MarkUnsupportedControls).
+    std::vector<std::string> UnsupportedSettingsControls() const;
 
     // Commands
     void Options();
@@ -192,7 +205,6 @@ private:
     bool CheckSupportChanges();
     bool RebuildCatalogue(bool newMame);
     bool RebuildFromLists();
-    bool CaptureMameLists();
     bool CreateCatalogueFiles();
     bool ShowCatalogueOutcome(const CatalogueOutcome& outcome);
     bool MergeCategories();
@@ -231,6 +243,14 @@ private:
     void ApplyDetails(const SelectionDetails& details);
     DetailsSource DetailsSourceOf(const MachineListView& list, const MachineRow& row) const;
 
+    // Search
+    void ConnectSearch();
+    /// Narrows `list` to what the search field holds; false when it already showed that.
+    bool ApplySearch(MachineListView& list);
+    void NarrowListOfView();
+    /// "Machines: N", or "Machines: N of M" while a search narrows the list.
+    QString MachineCountText(const MachineListView& list) const;
+
     // Commands' steps
     bool OpenOptions(bool firstRun);
     void CreateMAMEIni();
@@ -242,6 +262,8 @@ private:
     bool RunEmulator(const std::string& commandLine);
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
+    /// Starts MAME's -showconfig; the capture keeps the answer when finished.
+    std::unique_ptr<MameOptionsCapture> AskMameForOptions() const;
 
     // Online steps
     std::string FetchNews();

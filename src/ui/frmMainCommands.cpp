@@ -13,6 +13,7 @@
 #include "settings/MameIniBase.h"
 #include "settings/MameIniPreview.h"
 #include "settings/PathList.h"
+#include "settings/RejectedValues.h"
 
 namespace coinlight {
 
@@ -235,7 +236,8 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    ShowTextPage(QStringLiteral("MAME Error Output"), text, true);
+    // A value MAME refused is named with the setting that holds it.
+    ShowTextPage(QStringLiteral("MAME Error Output"), NameRejectingControls(text), true);
 }
 
 void frmMain::Find() {

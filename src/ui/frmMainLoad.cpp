@@ -440,7 +440,7 @@ void frmMain::ShowSavedView() {
 }
 
 void frmMain::FixAllHidden() {
-    if (m_controls.lvAll->Model().rowCount() != 0) {
+    if (m_controls.lvAll->Model().TotalRows() != 0) {
         return;
     }
     m_prompter.Inform(QStringLiteral("Looks like you may have the filters set to hide everything.  "

@@ -76,8 +76,8 @@ void frmMain::UpdateCommandSet() {
 }
 
 void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
-    m_controls.lblPanel[0]->setText(QStringLiteral("Machines: ") +
-                                    QString::number(list.Model().rowCount()));
+    ApplySearch(list); // the search field narrows whichever list is on show
+    m_controls.lblPanel[0]->setText(MachineCountText(list));
     m_controls.lblPanel[1]->setToolTip(&list == m_controls.lvOther ? QStringLiteral("Software")
                                                                    : QStringLiteral("Machine"));
     MachineListModel& model = list.Model();
