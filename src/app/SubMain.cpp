@@ -49,6 +49,9 @@ int SubMain(int argc, char** argv) {
     form.UnloadCover();
     if (!context.markers.skipNews) {
         form.NewsAtStart();
+        if (form.isHidden()) {
+            return 0; // closed while the news was on its way: there is no window to wait on
+        }
     }
     QApplication::restoreOverrideCursor();
     form.StartScrolling();

@@ -1,5 +1,7 @@
 #include "CreateSupportFiles.h"
 
+#include <chrono>
+#include <thread>
 #include <variant>
 
 #include "CatalogueAbort.h"
@@ -85,14 +87,17 @@ void WriteOrAbort(const std::filesystem::path& file, std::string_view bytes) {
     }
 }
 
-/// Steps 9 to 12: everything is in hand, so the files replace the old ones one by one.
-void StoreCatalogue(CatalogueWriters& writers, const CatalogueBuilder& builder,
-                    const std::filesystem::path& output) {
-    // softfilter.ini is spaced at the end, which has always needed the file to exist: a
-    // MAME without any filtered software list fails here.
+/// softfilter.ini is spaced at the end, which has always needed the file to exist: a MAME
+/// without any filtered software list fails here, before anything is stored.
+void CheckSoftFilter(const CatalogueBuilder& builder) {
     if (builder.SoftFilterIni().Empty()) {
         Abort(kErrorFileNotFound, kFileNotFoundText, kLocationSoftFilter);
     }
+}
+
+/// Steps 9 to 12: everything is in hand, so the files replace the old ones one by one.
+void StoreCatalogue(CatalogueWriters& writers, const CatalogueBuilder& builder,
+                    const std::filesystem::path& output) {
     for (AtomicFileWriter* writer : writers.All()) {
         CommitOrAbort(*writer);
     }
@@ -105,6 +110,29 @@ void StoreCatalogue(CatalogueWriters& writers, const CatalogueBuilder& builder,
                                                 builder.UnlistedMachines() + "\r\n");
     }
 }
+
+/// Thrown when `beforeReplacing` withholds the catalogue.
+struct Withheld {};
+
+/// The device pass, waited for with the interface alive: a pass that follows MAME ends only
+/// when MAME does, which after a failure early in the file can be many seconds away.
+class PumpedDeviceRoms final : public DeviceRomSource {
+public:
+    PumpedDeviceRoms(DeviceRomScanner& scanner, CatalogueProgress& progress)
+        : m_scanner(scanner), m_progress(progress) {}
+    bool Done() const override { return m_scanner.Done(); }
+    const NameList& Wait() override {
+        while (!m_scanner.Done()) {
+            m_progress.Pump();
+            std::this_thread::sleep_for(std::chrono::milliseconds(4));
+        }
+        return m_scanner.Wait();
+    }
+
+private:
+    DeviceRomScanner& m_scanner;
+    CatalogueProgress& m_progress;
+};
 
 /// Steps 5 to 12, while the device pass of step 4 runs on its own thread.
 CatalogueCounts BuildCatalogue(const CatalogueSources& sources, DeviceRomSource& devices,
@@ -122,8 +150,20 @@ CatalogueCounts BuildCatalogue(const CatalogueSources& sources, DeviceRomSource&
     LineReader machinePass(sources.machineXml);
     OpenOrAbort(machinePass, kLocationMachinePass);
     machinePass.OnBlockRead([&progress] { progress.Pump(); });
+    if (sources.machineXmlFinished) {
+        machinePass.FollowWriter(sources.machineXmlFinished);
+    }
     CatalogueBuilder builder(lists, devices, catver.get(), writers, progress);
     builder.Run(machinePass);
+    CheckSoftFilter(builder);
+    if (sources.beforeReplacing) {
+        // The last run is kept and cleared only now, so that a failure before this point
+        // leaves it whole.
+        if (!sources.beforeReplacing()) {
+            throw Withheld{};
+        }
+        KeepLastRun(sources.outputFolder);
+    }
     StoreCatalogue(writers, builder, sources.outputFolder);
     return builder.Counts();
 }
@@ -154,8 +194,11 @@ SupportFilesResult CreateSupportFiles(const CatalogueSources& sources,
     SupportFilesResult result;
     try {
         progress.ShowStep("Creating Coinlight assist files...");
-        KeepLastRun(sources.outputFolder);
-        DeviceRomScanner devices(sources.machineXml);
+        if (!sources.beforeReplacing) {
+            KeepLastRun(sources.outputFolder);
+        }
+        DeviceRomScanner scanner(sources.machineXml, sources.machineXmlFinished);
+        PumpedDeviceRoms devices(scanner, progress);
         try {
             result.counts = BuildCatalogue(sources, devices, progress);
         } catch (const CatalogueAbort&) {
@@ -171,6 +214,9 @@ SupportFilesResult CreateSupportFiles(const CatalogueSources& sources,
             FailedOutcome({kErrorOutOfMemory, kOutOfMemoryText, 0}, sources.outputFolder);
     } catch (const CatalogueAbort& abort) {
         result.outcome = FailedOutcome(abort.error, sources.outputFolder);
+    } catch (const Withheld&) {
+        result.outcome.fatalError = true;
+        result.withheld = true;
     }
     return result;
 }

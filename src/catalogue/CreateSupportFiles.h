@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "CatalogueBuilder.h"
@@ -18,6 +19,14 @@ struct CatalogueSources {
     /// "Catver.ini Not Found".
     std::optional<std::filesystem::path> catverIni;
     std::filesystem::path outputFolder;
+
+    /// While MAME still writes `machineXml`: true once it has finished. Both passes wait at
+    /// the end of the data until then. Empty for a file that is complete.
+    std::function<bool()> machineXmlFinished = {};
+    /// Asked once the catalogue is built, before any file of the output folder is touched;
+    /// false leaves every file as it was (the run that fed the catalogue failed). Without
+    /// it the files of the last run are kept and cleared first, as always.
+    std::function<bool()> beforeReplacing = {};
 };
 
 /// The program's own layout: `output/machine.xml`, `support/lists.txt`, `support/catver.ini`.
@@ -26,6 +35,9 @@ CatalogueSources CatalogueSourcesIn(const DataLayout& data, bool hasCatver);
 struct SupportFilesResult {
     CatalogueOutcome outcome;
     CatalogueCounts counts;
+    /// The catalogue was built, but `beforeReplacing` said no: nothing was touched, and
+    /// the outcome fails without a message of its own.
+    bool withheld = false;
 };
 
 /// Turns `machine.xml` into the catalogue: `arcadeinfo.txt`, `otherinfo.txt`, `crcinfo.txt`,
@@ -33,7 +45,8 @@ struct SupportFilesResult {
 /// when machines are missing from lists.txt, `unlisted.txt`. The previous `biosfilter.txt`
 /// and `crcinfo.txt` are kept as `biosfilterlast.txt` and `crcinfolast.txt`. On failure the
 /// old record files stay as they were, `bios.ini`, `softfilter.ini` and `unlisted.txt` are
-/// gone, and the outcome carries the message and the fatal flag.
+/// gone, and the outcome carries the message and the fatal flag. With `beforeReplacing`, a
+/// failure leaves every file as it was.
 SupportFilesResult CreateSupportFiles(const CatalogueSources& sources, CatalogueProgress& progress);
 
 } // namespace coinlight

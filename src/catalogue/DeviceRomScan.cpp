@@ -48,7 +48,12 @@ NameList CollectDeviceRoms(LineReader& machineXml) {
     return devices;
 }
 
-DeviceRomScanner::DeviceRomScanner(const std::filesystem::path& machineXml) : m_reader(machineXml) {
+DeviceRomScanner::DeviceRomScanner(const std::filesystem::path& machineXml,
+                                   std::function<bool()> writerFinished)
+    : m_reader(machineXml) {
+    if (writerFinished) {
+        m_reader.FollowWriter(std::move(writerFinished));
+    }
     m_thread = std::thread([this] {
         try {
             m_deviceRoms = CollectDeviceRoms(m_reader);

@@ -2,13 +2,14 @@
 
 #include <atomic>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <thread>
 
-#include "core/LineReader.h"
 #include "DeviceRomSource.h"
 #include "NameList.h"
 #include "RunTimeError.h"
+#include "core/LineReader.h"
 
 namespace coinlight {
 
@@ -21,7 +22,10 @@ NameList CollectDeviceRoms(LineReader& machineXml);
 /// settle the device question for the machines it met in the meantime when this is done.
 class DeviceRomScanner final : public DeviceRomSource {
 public:
-    explicit DeviceRomScanner(const std::filesystem::path& machineXml);
+    /// `writerFinished`: while MAME still writes the file, true once it has finished (see
+    /// LineReader::FollowWriter); empty for a finished file.
+    explicit DeviceRomScanner(const std::filesystem::path& machineXml,
+                              std::function<bool()> writerFinished = {});
     ~DeviceRomScanner() override;
     DeviceRomScanner(const DeviceRomScanner&) = delete;
     DeviceRomScanner& operator=(const DeviceRomScanner&) = delete;

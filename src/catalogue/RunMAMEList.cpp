@@ -3,7 +3,6 @@
 #include "CatalogueFiles.h"
 #include "FileCopy.h"
 #include "core/CommandLine.h"
-#include "core/CommandRunner.h"
 #include "core/UserMessage.h"
 
 namespace coinlight {
@@ -18,14 +17,36 @@ constexpr const char* kNotCreated = "The machine.xml was not created.  Coinlight
 
 } // namespace
 
-CatalogueOutcome RunMAMEList(std::string_view option, const MameProgram& mame,
-                             const DataLayout& data, CatalogueProgress& progress) {
-    CatalogueOutcome outcome;
+std::optional<CatalogueOutcome> MissingListsTxt(const DataLayout& data) {
     std::error_code error;
-    if (!std::filesystem::exists(data.Support() / kListsTxt, error)) {
-        outcome.messages.push_back({kListsMissing, true});
+    if (std::filesystem::exists(data.Support() / kListsTxt, error)) {
+        return std::nullopt;
+    }
+    return CatalogueOutcome{{{kListsMissing, true}}, true};
+}
+
+CatalogueOutcome CaptureOutcome(const ExecResult& run, bool created, const DataLayout& data) {
+    CatalogueOutcome outcome;
+    if (run.IsFatal()) {
+        outcome.messages.push_back({run.message, true});
         outcome.fatalError = true;
         return outcome;
+    }
+    if (run.outcome == ExecOutcome::FolderUnavailable) {
+        outcome.messages.push_back({run.message, true});
+    }
+    if (!created) {
+        outcome.messages.push_back(
+            {std::string(kNotCreated) + "\n\n" + NoPermissionSentence(data.Output()), true});
+        outcome.fatalError = true;
+    }
+    return outcome;
+}
+
+CatalogueOutcome RunMAMEList(std::string_view option, const MameProgram& mame,
+                             const DataLayout& data, CatalogueProgress& progress) {
+    if (auto missing = MissingListsTxt(data)) {
+        return *missing;
     }
     const std::string_view fileName = option == "listxml" ? kMachineXml : kSoftwareXml;
     const std::filesystem::path target = data.Output() / fileName;
@@ -37,21 +58,9 @@ CatalogueOutcome RunMAMEList(std::string_view option, const MameProgram& mame,
         progress.Pump();
         return true;
     });
-    if (run.IsFatal()) {
-        outcome.messages.push_back({run.message, true});
-        outcome.fatalError = true;
-        return outcome;
-    }
-    if (run.outcome == ExecOutcome::FolderUnavailable) {
-        outcome.messages.push_back({run.message, true});
-    }
     // The shell makes the file before MAME writes to it: an empty one counts as made.
-    if (!std::filesystem::exists(target, error)) {
-        outcome.messages.push_back(
-            {std::string(kNotCreated) + "\n\n" + NoPermissionSentence(data.Output()), true});
-        outcome.fatalError = true;
-    }
-    return outcome;
+    std::error_code error;
+    return CaptureOutcome(run, !run.IsFatal() && std::filesystem::exists(target, error), data);
 }
 
 std::optional<std::string> BackupMAMEFile(std::string_view fileName, const DataLayout& data) {

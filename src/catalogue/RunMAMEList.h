@@ -7,6 +7,7 @@
 
 #include "CatalogueOutcome.h"
 #include "CatalogueProgress.h"
+#include "core/CommandRunner.h"
 #include "core/DataLayout.h"
 
 namespace coinlight {
@@ -24,6 +25,13 @@ struct MameProgram {
 /// the messages in the order they are shown; a fatal one ends the start.
 CatalogueOutcome RunMAMEList(std::string_view option, const MameProgram& mame,
                              const DataLayout& data, CatalogueProgress& progress);
+
+/// The outcome of a start without `support/lists.txt`, or nothing when it is there.
+std::optional<CatalogueOutcome> MissingListsTxt(const DataLayout& data);
+
+/// What the user is told of one capture: the runner's own message, and "not created" when
+/// `created` is false. A fatal runner failure ends the start at once.
+CatalogueOutcome CaptureOutcome(const ExecResult& run, bool created, const DataLayout& data);
 
 /// Keeps `output/<fileName>` as `output/<fileName>last.xml` ("machine.xmllast.xml") before
 /// a new MAME's capture replaces it. On failure, the reason.

@@ -1,8 +1,10 @@
 #include "LineReader.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fcntl.h>
+#include <thread>
 #include <unistd.h>
 
 namespace coinlight {
@@ -11,6 +13,9 @@ namespace {
 
 // Large enough that system calls and hooks are rare, small enough to stay in the cache.
 constexpr std::size_t kBlockSize = 1 << 21;
+// How long a reader that has caught up with its writer rests before it looks again: short
+// beside the time MAME takes to write a block, long beside a read that finds nothing.
+constexpr auto kWriterPause = std::chrono::milliseconds(4);
 
 const char* Find(const char* from, const char* to, char c) {
     return static_cast<const char*>(std::memchr(from, c, static_cast<std::size_t>(to - from)));
@@ -47,23 +52,36 @@ bool LineReader::Refill() {
     if (m_end == m_buffer.size()) {
         m_buffer.resize(m_buffer.size() * 2);
     }
-    for (;;) {
-        const ssize_t got = ::read(m_descriptor, m_buffer.data() + m_end, m_buffer.size() - m_end);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got <= 0) {
-            m_eof = true;
-            m_failed = got < 0;
-            return false;
-        }
-        m_end += static_cast<std::size_t>(got);
-        break;
+    const ssize_t got = ReadMore();
+    if (got <= 0) {
+        m_eof = true;
+        m_failed = got < 0;
+        return false;
     }
+    m_end += static_cast<std::size_t>(got);
     if (m_onBlockRead) {
         m_onBlockRead();
     }
     return true;
+}
+
+ssize_t LineReader::ReadMore() {
+    for (;;) {
+        // Asked before the read: what a finished writer wrote is all there by then, so an
+        // empty read after it is the real end.
+        const bool finished = !m_writerFinished || m_writerFinished();
+        const ssize_t got = ::read(m_descriptor, m_buffer.data() + m_end, m_buffer.size() - m_end);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got != 0 || finished) {
+            return got;
+        }
+        std::this_thread::sleep_for(kWriterPause);
+        if (m_onBlockRead) {
+            m_onBlockRead();
+        }
+    }
 }
 
 std::string_view LineReader::TakeLine(std::size_t end, std::size_t next) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <string_view>
+#include <sys/types.h>
 #include <vector>
 
 namespace coinlight {
@@ -23,9 +24,17 @@ public:
     /// True when a read failed, as opposed to reaching the end.
     bool Failed() const { return m_failed; }
 
-    /// Called after each block is read (every few megabytes), so that a long scan can let
+    /// Called after each block is read (every few megabytes), and every few milliseconds
+    /// while the reader waits for a writer (see FollowWriter), so that a long scan can let
     /// the interface breathe.
     void OnBlockRead(std::function<void()> hook) { m_onBlockRead = std::move(hook); }
+
+    /// Reads a file that another process is still writing: at the end of the data the
+    /// reader waits for more until `writerFinished` returns true, and only then is the end
+    /// of the data the end of the file. `writerFinished` may be asked from any thread.
+    void FollowWriter(std::function<bool()> writerFinished) {
+        m_writerFinished = std::move(writerFinished);
+    }
 
     /// The next line, valid until the following call; false at the end of the file.
     bool Next(std::string_view& line);
@@ -36,6 +45,8 @@ public:
 
 private:
     bool Refill();
+    /// The next bytes of the file, waiting for a writer that has not finished; 0 at the end.
+    ssize_t ReadMore();
     std::string_view TakeLine(std::size_t end, std::size_t next);
 
     int m_descriptor = -1;
@@ -45,6 +56,7 @@ private:
     bool m_eof = false;
     bool m_failed = false;
     std::function<void()> m_onBlockRead;
+    std::function<bool()> m_writerFinished;
 };
 
 } // namespace coinlight

@@ -41,10 +41,11 @@ std::filesystem::path LastRunFile(const DataLayout& data) {
     return data.Output() / "lastrun.txt";
 }
 
-std::optional<UserMessage> WriteLastRun(const DataLayout& data, std::string_view commandLine) {
+std::optional<UserMessage> WriteLastRun(const DataLayout& data, std::string_view commandLine,
+                                        std::string_view routine) {
     std::string error;
     if (!WriteTextLines(LastRunFile(data), {std::string(commandLine)}, &error)) {
-        return RoutineError("Error in PlayArcade", error, 12);
+        return RoutineError("Error in " + std::string(routine), error, 12);
     }
     return std::nullopt;
 }

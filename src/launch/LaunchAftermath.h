@@ -12,8 +12,10 @@ namespace coinlight {
 /// output/lastrun.txt: the one line of the last start.
 std::filesystem::path LastRunFile(const DataLayout& data);
 
-/// Replaces lastrun.txt with the command line. On failure, the error box of the start.
-std::optional<UserMessage> WriteLastRun(const DataLayout& data, std::string_view commandLine);
+/// Replaces lastrun.txt with the command line. On failure, the error box of the start
+/// routine named.
+std::optional<UserMessage> WriteLastRun(const DataLayout& data, std::string_view commandLine,
+                                        std::string_view routine = "PlayArcade");
 
 /// What the emulator printed during a start. A stream that printed nothing has no text.
 struct LaunchOutput {

@@ -1,8 +1,9 @@
 #include "Favorites.h"
 
-#include <unordered_map>
+#include <algorithm>
 
-#include "core/AtomicFileWriter.h"
+#include "RecordScanner.h"
+#include "core/CommandLine.h"
 #include "core/TextCase.h"
 #include "core/TextFile.h"
 
@@ -10,11 +11,15 @@ namespace coinlight {
 
 namespace {
 
-/// The lines of a file without empty ones; none when it cannot be read.
-std::vector<std::string> RecordLines(const std::filesystem::path& file) {
+constexpr std::string_view kAllArcade = "All Arcade Machines";
+constexpr std::string_view kAvailableArcade = "Available Arcade Machines";
+constexpr std::string_view kOtherMachines = "Other Machines";
+
+/// The lines of a favourites file that name a machine; none when it cannot be read.
+std::vector<std::string> FavoriteLines(const std::filesystem::path& file) {
     std::vector<std::string> lines;
     for (auto& line : ReadTextLines(file).value_or(std::vector<std::string>{})) {
-        if (!line.empty()) {
+        if (NamesAMachine(line)) {
             lines.push_back(std::move(line));
         }
     }
@@ -34,6 +39,10 @@ bool ReplaceOrRemove(const std::filesystem::path& file, const std::vector<std::s
         return true;
     }
     return WriteTextLines(file, lines, &error);
+}
+
+std::string WordOfChangesFile(std::string_view fileName) {
+    return fileName == "arcadefavschanges.txt" ? "Arcade" : "Other";
 }
 
 } // namespace
@@ -68,74 +77,65 @@ std::string FavoriteShortName(const std::vector<std::string>& fields) {
     return fields.empty() ? std::string() : fields[0];
 }
 
+bool NamesAMachine(std::string_view line) {
+    const std::vector<std::string> fields = SplitFavoriteLine(line);
+    // A few fields are a record cut short, not a line of an old release, which held the
+    // name alone, as MAME had it then, capitals included.
+    if (fields.size() > 1 && fields.size() < 21) {
+        return false;
+    }
+    return IsShortName(ToLowerAscii(FavoriteShortName(fields)));
+}
+
 std::string RecordLineOf(const MachineRow& row) {
     std::string line;
     for (int column = 0; column < kRecordFieldCount; ++column) {
         line += column == 0 ? "\"" : ",\"";
-        line += row.Field(column);
+        // A quote inside a field would end it early for every reader of the file.
+        const std::string_view field = row.Field(column);
+        std::copy_if(field.begin(), field.end(), std::back_inserter(line),
+                     [](char c) { return c != '"'; });
         line += '"';
     }
     return line;
 }
 
-PurgeOutcome PurgeFavorites(const std::filesystem::path& favoritesFile,
-                            const std::filesystem::path& infoFile,
-                            const std::filesystem::path& changesFile, std::string_view word) {
-    PurgeOutcome outcome;
-    if (!std::filesystem::exists(favoritesFile)) {
-        return outcome;
+std::optional<std::string> FavoritesFileOfView(std::string_view view) {
+    if (view == kAllArcade || view == kAvailableArcade) {
+        return "arcadefavs.txt";
     }
-    // One pass over the catalogue: the first line of each name, ignoring case.
-    const std::vector<std::string> catalogue = RecordLines(infoFile);
-    std::unordered_map<std::string, const std::string*> byName;
-    for (const auto& line : catalogue) {
-        byName.emplace(ToLowerAscii(FavoriteShortName(SplitFavoriteLine(line))), &line);
+    if (view == kOtherMachines) {
+        return "otherfavs.txt";
     }
-    std::vector<std::string> kept;
-    std::vector<std::string> removed;
-    for (const auto& line : RecordLines(favoritesFile)) {
-        const std::string name = FavoriteShortName(SplitFavoriteLine(line));
-        const auto found = byName.find(ToLowerAscii(name));
-        if (found != byName.end()) {
-            kept.push_back(*found->second);
-        } else {
-            removed.push_back(name);
+    return std::nullopt;
+}
+
+FavoritesMenuState FavoritesMenuOf(std::string_view view, bool favoriteArcade, bool favoriteOther) {
+    const auto file = FavoritesFileOfView(view);
+    if (!file) {
+        return {};
+    }
+    const bool showingFavorites = view == kOtherMachines ? favoriteOther : favoriteArcade;
+    return {!showingFavorites, showingFavorites};
+}
+
+bool FavoritesNeedPurge(const std::filesystem::path& favoritesFile) {
+    const std::string text = ReadFileBytes(favoritesFile).value_or(std::string());
+    RecordScanner scanner(text);
+    std::string_view line;
+    RecordSpans spans;
+    bool wellFormed = false;
+    while (scanner.Next(line, spans, wellFormed)) {
+        if (!wellFormed && !line.empty() && line != "\r") {
+            return true;
         }
     }
-    if (!removed.empty()) {
-        std::vector<std::string> changes =
-            ReadTextLines(changesFile).value_or(std::vector<std::string>{});
-        changes.insert(changes.end(), removed.begin(), removed.end());
-        if (!WriteTextLines(changesFile, changes, &outcome.error)) {
-            return outcome;
-        }
-        outcome.removedAny = true;
-        outcome.messages.push_back(
-            {"Verify Favorites",
-             "At least one machine was removed from your favorites list because there were "
-             "changes to it in this version of MAME.  You can see a list of the machines removed "
-             "by selecting Favorite " +
-                 std::string(word) + " Machine Changes from the Reports pull-down menu.",
-             true});
-    }
-    if (!ReplaceOrRemove(favoritesFile, kept, outcome.error)) {
-        return outcome;
-    }
-    if (kept.empty()) {
-        outcome.nowEmpty = true;
-        outcome.messages.push_back(
-            {"Verify Favorites",
-             "Your favorite " + std::string(word) +
-                 " Machine list is now empty.  Coinlight will now load the full " +
-                 std::string(word) + " Machine list.",
-             false});
-    }
-    return outcome;
+    return false;
 }
 
 std::vector<FavoritesMessage> AddFavorite(const std::filesystem::path& favoritesFile,
                                           const MachineRow& row, std::string* error) {
-    std::vector<std::string> lines = RecordLines(favoritesFile);
+    std::vector<std::string> lines = FavoriteLines(favoritesFile);
     for (const auto& line : lines) {
         if (FavoriteShortName(SplitFavoriteLine(line)) == row.ShortName()) {
             return {{"Add To Favorites", "Machine already on list.", true}};
@@ -153,7 +153,7 @@ RemoveOutcome RemoveFavorite(const std::filesystem::path& favoritesFile,
                              std::string_view shortName) {
     RemoveOutcome outcome;
     std::vector<std::string> kept;
-    for (auto& line : RecordLines(favoritesFile)) {
+    for (auto& line : FavoriteLines(favoritesFile)) {
         if (FavoriteShortName(SplitFavoriteLine(line)) != shortName) {
             kept.push_back(std::move(line));
         }
@@ -168,6 +168,28 @@ RemoveOutcome RemoveFavorite(const std::filesystem::path& favoritesFile,
              "Your Favorite list is empty.  Coinlight will now return to the full list.", false});
     }
     return outcome;
+}
+
+FavoriteChangesReport FavoriteChanges(const std::filesystem::path& outputFolder,
+                                      std::string_view fileName) {
+    const std::string word = WordOfChangesFile(fileName);
+    FavoriteChangesReport report;
+    report.caption = "Favorite " + word + " Machine Changes";
+    const auto lines = ReadTextLines(outputFolder / fileName);
+    if (!lines) {
+        report.missing = FavoritesMessage{report.caption, "This report does not exist.", false};
+        return report;
+    }
+    report.text = "These machines have been removed from your favorites list because something "
+                  "about them has changed with this version of MAME or MAME no longer supports "
+                  "them.  You can add them again if they are still supported.\n\nNOTE: This list "
+                  "is cumulative.  If you want to reset it, go to the Maintenance screen and "
+                  "delete the Favorite " +
+                  word + " Machine Changes report.\n\n\n";
+    for (const auto& line : *lines) {
+        report.text += line + "\n";
+    }
+    return report;
 }
 
 } // namespace coinlight

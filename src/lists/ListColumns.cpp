@@ -40,9 +40,11 @@ std::vector<ColumnSpec> OtherListColumns() {
 }
 
 std::vector<ColumnSpec> SoftwareListColumns() {
-    return {{"Software", 6000},  {"Year", 1000}, {"Supported", 1300},   {"Publisher", 3500},
-            {"Device(s)", 2000}, {"Name", 1800}, {"Requirement", 2000}, {"Disk", 1500},
-            {"List", 2200},      kSpacer};
+    return {{"Software", 6000},    {"Year", 1000},
+            {"Supported", 1300},   {"Publisher", 3500},
+            {"Device(s)", 2000},   {"Software", 1800},
+            {"Requirement", 2000}, {"Disk", 1500},
+            {"List", 2200},        kSpacer};
 }
 
 } // namespace coinlight

@@ -2,9 +2,9 @@
 #include <optional>
 
 #include "ToolCommand.h"
+#include "ToolOptions.h"
 #include "core/DataLayout.h"
 #include "core/FileTests.h"
-#include "core/OptionsIni.h"
 #include "launch/LaunchCommand.h"
 #include "settings/BuildIni.h"
 #include "settings/ProfileChoice.h"
@@ -12,38 +12,6 @@
 namespace coinlight {
 
 namespace {
-
-int Fail(const std::string& message) {
-    std::cerr << "coinlight-tool: " << message << '\n';
-    return 1;
-}
-
-/// options.ini read as the program reads it at start; nothing (and a message) when it
-/// cannot be used.
-std::optional<Preferences> ReadOptions(const std::filesystem::path& file) {
-    if (!FileExists(file)) {
-        Fail("cannot read " + file.string());
-        return std::nullopt;
-    }
-    Preferences preferences;
-    const OptionsReadResult result = ReadOptionsIni(file, preferences);
-    switch (result.status) {
-    case OptionsReadStatus::Ok:
-        return preferences;
-    case OptionsReadStatus::VersionTooOld:
-        Fail(file.string() + " was written by an older release (" + result.detail + ")");
-        return std::nullopt;
-    case OptionsReadStatus::Problem:
-        Fail(file.string() + " holds a value that does not convert: " + result.detail);
-        return std::nullopt;
-    }
-    return std::nullopt;
-}
-
-/// The data folder holds the settings folder that holds options.ini.
-DataLayout DataFolderOf(const std::filesystem::path& optionsIni) {
-    return {std::filesystem::absolute(optionsIni).parent_path().parent_path()};
-}
 
 void PrintLines(const std::vector<std::string>& lines) {
     for (const auto& line : lines) {
@@ -113,7 +81,7 @@ int MameIni(const ToolArguments& arguments) {
     if (!parsed) {
         return -1;
     }
-    const auto preferences = ReadOptions(parsed->optionsIni);
+    const auto preferences = ReadToolOptions(parsed->optionsIni);
     if (!preferences) {
         return 1;
     }
@@ -121,11 +89,11 @@ int MameIni(const ToolArguments& arguments) {
     if (parsed->profile) {
         const auto profile = FindProfile(*parsed->profile, DataFolderOf(parsed->optionsIni));
         if (!profile) {
-            return Fail("no profile " + *parsed->profile);
+            return ToolFailure("no profile " + *parsed->profile);
         }
         const ProfileSections sections = ProfileSectionLines(ReadOptionValues(*profile));
         if (sections.problem) {
-            return Fail(profile->string() + ": " + *sections.problem);
+            return ToolFailure(profile->string() + ": " + *sections.problem);
         }
         lines.insert(lines.end(), sections.lines.begin(), sections.lines.end());
     }
@@ -140,14 +108,14 @@ int LaunchLine(const ToolArguments& arguments) {
     } else if (arguments.size() != 2) {
         return -1;
     }
-    const auto preferences = ReadOptions(arguments[0]);
+    const auto preferences = ReadToolOptions(arguments[0]);
     if (!preferences) {
         return 1;
     }
     const auto line = ComposeLaunchCommandLine(*preferences, DataFolderOf(arguments[0]),
                                                arguments[1], otherCommands);
     if (!line) {
-        return Fail("\"" + arguments[1] + "\" is not the short name of a machine");
+        return ToolFailure("\"" + arguments[1] + "\" is not the short name of a machine");
     }
     std::cout << *line << '\n';
     return 0;

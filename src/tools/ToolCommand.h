@@ -21,7 +21,11 @@ int ToolUsageError(const ToolCommand& command);
 std::vector<ToolCommand> IniCommands();
 std::vector<ToolCommand> SettingsCommands();
 std::vector<ToolCommand> CatalogueCommands();
+std::vector<ToolCommand> ReportCommands();
+std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
+std::vector<ToolCommand> OtherLaunchCommands();
+std::vector<ToolCommand> OptionCheckCommands();
 std::vector<ToolCommand> AuthoringCommands();
 
 } // namespace coinlight

@@ -9,7 +9,8 @@ namespace {
 std::vector<ToolCommand> AllCommands() {
     std::vector<ToolCommand> commands;
     for (auto group :
-         {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands, AuthoringCommands}) {
+         {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands, InfoCommands,
+          OtherLaunchCommands, ReportCommands, OptionCheckCommands, AuthoringCommands}) {
         for (const auto& command : group()) {
             commands.push_back(command);
         }

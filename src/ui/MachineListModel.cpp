@@ -20,7 +20,7 @@ void MachineListModel::Reset(std::shared_ptr<const MachineRows> rows,
     beginResetModel();
     m_rows = std::move(rows);
     m_order = std::move(order);
-    m_rowOfName.clear();
+    m_searchIndex.reset();
     if (m_sorted && m_rows) {
         // New rows come in file order; a list that was sorted stays sorted the same way.
         SortRows(m_order, *m_rows, 0, false);
@@ -28,7 +28,36 @@ void MachineListModel::Reset(std::shared_ptr<const MachineRows> rows,
             SortRows(m_order, *m_rows, m_sortKey, m_descending);
         }
     }
+    NarrowOrder();
     endResetModel();
+}
+
+void MachineListModel::Narrow(const SearchQuery& query) {
+    if (query == m_query) {
+        return;
+    }
+    beginResetModel();
+    const bool refines = IsNarrowed() && query.Refines(m_query);
+    m_query = query;
+    if (refines && m_searchIndex) {
+        // Typing on: only what is on show can still match.
+        m_narrowed = m_searchIndex->Narrow(m_narrowed, m_query);
+    } else {
+        NarrowOrder();
+    }
+    endResetModel();
+}
+
+void MachineListModel::NarrowOrder() {
+    if (!IsNarrowed() || !m_rows) {
+        m_narrowed.clear();
+        m_narrowed.shrink_to_fit();
+        return;
+    }
+    if (!m_searchIndex) {
+        m_searchIndex = std::make_unique<MachineSearchIndex>(*m_rows, m_order);
+    }
+    m_narrowed = m_searchIndex->Narrow(m_order, m_query);
 }
 
 void MachineListModel::Clear() {
@@ -36,21 +65,23 @@ void MachineListModel::Clear() {
 }
 
 const MachineRow* MachineListModel::Row(int row) const {
-    if (!m_rows || row < 0 || row >= static_cast<int>(m_order.size())) {
+    const auto& shown = Shown();
+    if (!m_rows || row < 0 || row >= static_cast<int>(shown.size())) {
         return nullptr;
     }
-    return &m_rows->rows[m_order[static_cast<std::size_t>(row)]];
+    return &m_rows->rows[shown[static_cast<std::size_t>(row)]];
 }
 
 int MachineListModel::RowOfShortName(std::string_view shortName) const {
-    if (m_rowOfName.empty() && !m_order.empty()) {
-        m_rowOfName.reserve(m_order.size());
-        for (std::size_t row = 0; row < m_order.size(); ++row) {
-            m_rowOfName.emplace(m_rows->rows[m_order[row]].ShortName(), static_cast<int>(row));
+    // A plain pass: lookups come one at a time, and a map would cost more to build anew
+    // after each sort or search than the pass does.
+    const auto& shown = Shown();
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+        if (m_rows->rows[shown[row]].ShortName() == shortName) {
+            return static_cast<int>(row);
         }
     }
-    const auto found = m_rowOfName.find(shortName);
-    return found == m_rowOfName.end() ? -1 : found->second;
+    return -1;
 }
 
 void MachineListModel::Sort(int column, bool descending) {
@@ -67,7 +98,10 @@ void MachineListModel::Sort(int column, bool descending) {
         rowsBefore.push_back(Row(index.row()));
     }
     SortRows(m_order, *m_rows, column, descending);
-    m_rowOfName.clear();
+    if (IsNarrowed()) {
+        // A stable sort of the part gives the order the part has in the sorted whole.
+        SortRows(m_narrowed, *m_rows, column, descending);
+    }
     QModelIndexList after;
     for (std::size_t i = 0; i < rowsBefore.size(); ++i) {
         const int row = rowsBefore[i] != nullptr ? RowOfShortName(rowsBefore[i]->ShortName()) : -1;
@@ -111,7 +145,7 @@ void MachineListModel::SetMarkedMachine(std::string shortName, QIcon marker, QIc
 }
 
 int MachineListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_order.size());
+    return parent.isValid() ? 0 : static_cast<int>(Shown().size());
 }
 
 int MachineListModel::columnCount(const QModelIndex& parent) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -10,11 +9,15 @@
 
 #include "lists/ListColumns.h"
 #include "lists/MachineRows.h"
+#include "lists/MachineSearchIndex.h"
+#include "lists/SearchQuery.h"
 
 namespace coinlight {
 
 /// A machine list over rows that several lists share: the model holds the order of its own
-/// rows and nothing else. Emptying it is a reset, never a removal row by row.
+/// rows and nothing else. Emptying it is a reset, never a removal row by row. A search can
+/// narrow what it shows to part of its rows; rows, row numbers and counts are then those
+/// on show, and the whole list comes back, in its order, when the search is cleared.
 class MachineListModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -28,6 +31,14 @@ public:
     /// then sorted as the list last was.
     void Reset(std::shared_ptr<const MachineRows> rows, std::vector<std::uint32_t> order);
     void Clear();
+
+    /// Shows only the rows that hold every word of `query`; an empty query shows them all.
+    /// A new Reset keeps the query and narrows the new rows by it.
+    void Narrow(const SearchQuery& query);
+    const SearchQuery& Query() const { return m_query; }
+    bool IsNarrowed() const { return !m_query.Empty(); }
+    /// The rows of the list, shown or not.
+    int TotalRows() const { return static_cast<int>(m_order.size()); }
 
     const MachineRow* Row(int row) const;
     /// The row of a machine, or -1: the lists' "k.<short name>" keys.
@@ -57,11 +68,18 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    /// The rows on show: the whole order, or the narrowed part of it.
+    const std::vector<std::uint32_t>& Shown() const { return IsNarrowed() ? m_narrowed : m_order; }
+    /// Works out the narrowed rows anew from the whole order.
+    void NarrowOrder();
+
     bool m_marksUnavailable;
     std::vector<ColumnSpec> m_columns;
     std::shared_ptr<const MachineRows> m_rows;
     std::vector<std::uint32_t> m_order;
-    mutable std::unordered_map<std::string_view, int> m_rowOfName; // built on first lookup
+    SearchQuery m_query;
+    std::vector<std::uint32_t> m_narrowed;
+    std::unique_ptr<MachineSearchIndex> m_searchIndex; // made at the first search of the rows
     int m_sortKey = 0;
     bool m_descending = false;
     bool m_sorted = false;

@@ -71,12 +71,34 @@ void MachineListView::SelectRow(int row) {
     scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
+bool MachineListView::Narrow(const SearchQuery& query) {
+    if (m_model.Query() == query) {
+        return false;
+    }
+    const MachineRow* selected = SelectedMachine();
+    const std::string selectedName =
+        selected != nullptr ? std::string(selected->ShortName()) : std::string();
+    m_model.Narrow(query);
+    int row = selectedName.empty() ? -1 : m_model.RowOfShortName(selectedName);
+    if (row < 0 && m_model.rowCount() != 0) {
+        row = 0;
+    }
+    SelectRow(row);
+    return true;
+}
+
 void MachineListView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->accept();
         if (SelectedRow() >= 0) {
             emit RowActivated(SelectedRow());
         }
+        return;
+    }
+    if (event->text() == QStringLiteral("/")) {
+        // As in file managers and browsers: the slash opens the search, it is no type-ahead.
+        event->accept();
+        emit FindRequested();
         return;
     }
     QTreeView::keyPressEvent(event);

@@ -32,6 +32,11 @@ public:
     void SelectRow(int row);
     const MachineRow* SelectedMachine() const { return m_model.Row(SelectedRow()); }
 
+    /// Shows only the rows that hold every word of `query` (an empty one shows them all),
+    /// keeping the selected machine selected while it is on show, else selecting the first
+    /// row; false when the list already showed that.
+    bool Narrow(const SearchQuery& query);
+
     /// Type-ahead: the next row whose first column (the description) starts with what was
     /// typed, whatever column the list is sorted by.
     void keyboardSearch(const QString& search) override;
@@ -42,6 +47,8 @@ signals:
     /// A double click or Enter on a row. Enter stops here: the window around the list never
     /// sees it, so one key press starts one action.
     void RowActivated(int row);
+    /// "/" in the list: the user wants the search field.
+    void FindRequested();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

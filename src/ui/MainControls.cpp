@@ -7,7 +7,13 @@
 #include <QVBoxLayout>
 
 #include "MachineListView.h"
+#include "MachineSearchField.h"
 #include "chrome/TitleArea.h"
+#include "info/InfoSourceList.h"
+#include "info/SnapshotPane.h"
+#include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
@@ -37,20 +43,30 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
     return link;
 }
 
+void AllowListMenus(MainControls& c) {
+    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+    }
+}
+
 QWidget* BuildListFrame(MainControls& c) {
     c.fraList =
         Named(new QGroupBox(QStringLiteral("All Arcade Machines")), QStringLiteral("fraList"));
     auto* layout = new QVBoxLayout(c.fraList);
+    c.txtSearch = new MachineSearchField;
+    layout->addWidget(c.txtSearch);
 
     c.lists = Named(new QStackedWidget, QStringLiteral("lists"));
     c.lvAll = new MachineListView("lvAll", false);
     c.lvAvailable = new MachineListView("lvAvailable", false);
     c.lvUnavailable = new MachineListView("lvUnavailable", false);
     c.lvOther = new MachineListView("lvOther", true);
-    c.lvSoftware = new MachineListView("lvSoftware", true);
+    c.picSoftware = new SoftwarePanel;
+    c.lvSoftware = c.picSoftware->List();
+    c.lblBLinks[LinkListSlots] = c.picSoftware->SlotsLink();
     auto* other = Named(new QSplitter(Qt::Vertical), QStringLiteral("otherPage"));
     other->addWidget(c.lvOther);
-    other->addWidget(c.lvSoftware);
+    other->addWidget(c.picSoftware);
     other->setStretchFactor(0, 3);
     other->setStretchFactor(1, 2);
     c.otherPage = other;
@@ -58,24 +74,22 @@ QWidget* BuildListFrame(MainControls& c) {
                           static_cast<QWidget*>(c.lvUnavailable), c.otherPage}) {
         c.lists->addWidget(list);
     }
-    layout->addWidget(c.lists);
+    layout->addWidget(c.lists, 1);
+    c.picShots = new SnapshotPane;
+    c.lblShots = c.picShots->MissingText();
+    c.picShots->hide();
+    layout->addWidget(c.picShots, 1);
     return c.fraList;
 }
 
 QWidget* BuildVerifyFrame(MainControls& c) {
-    c.fraVerify = Named(new QGroupBox, QStringLiteral("fraVerify"));
-    auto* layout = new QVBoxLayout(c.fraVerify);
-    c.rtfVerify = Named(new QTextBrowser, QStringLiteral("rtfVerify"));
-    c.rtfVerify->setOpenExternalLinks(false);
-    c.rtfVerify->setTabStopDistance(100 * 2); // 100 dialog units, about 200 pixels
-    layout->addWidget(c.rtfVerify);
-    auto* commands = new QHBoxLayout;
-    c.cmdGameList = AddButton(c.fraVerify, "cmdGameList", QStringLiteral("&Return"),
-                              QStringLiteral("Returns To The Machine List"));
-    commands->addWidget(c.cmdGameList);
-    commands->addWidget(AddLink(c.fraVerify, c, LinkReturnList1, QStringLiteral("Return")));
-    commands->addStretch();
-    layout->addLayout(commands);
+    c.verifyPage = new VerifyPage;
+    c.fraVerify = c.verifyPage;
+    c.rtfVerify = c.verifyPage->Report();
+    c.cmdGameList = c.verifyPage->ReturnButton();
+    c.lblBLinks[LinkReturnList1] = c.verifyPage->ReturnLink();
+    c.lstInfo = new InfoSourceList; // moves with the report page
+    c.verifyPage->SetSidePanel(c.lstInfo);
     return c.fraVerify;
 }
 
@@ -112,9 +126,10 @@ QLayout* BuildDetailsStrip(MainControls& c) {
         c.lblPanel[static_cast<std::size_t>(i)] = label;
         strip->addWidget(label, stretch[i]);
     }
-    // Room for the largest count MAME can have.
+    // Room for the largest count MAME can have, also when a search shows part of it.
     c.lblPanel[0]->setMinimumWidth(
-        c.lblPanel[0]->fontMetrics().horizontalAdvance(QStringLiteral("Machines: 888888")) + 8);
+        c.lblPanel[0]->fontMetrics().horizontalAdvance(QStringLiteral("Machines: 88888 of 88888")) +
+        8);
     return strip;
 }
 
@@ -149,14 +164,28 @@ QLayout* BuildStartRow(QWidget* parent, MainControls& c) {
     return row;
 }
 
+QWidget* BuildCabinetRow(MainControls& c) {
+    // Its own height whether or not the machine has an icon: the commands below stay put.
+    auto* cabinet = Named(new QWidget, QStringLiteral("picCabinet"));
+    cabinet->setFixedHeight(34);
+    auto* row = new QHBoxLayout(cabinet);
+    row->setContentsMargins(0, 0, 0, 0);
+    c.picIcon = Named(new QLabel, QStringLiteral("picIcon"));
+    c.picIcon->setFixedSize(32, 32);
+    c.picIcon->hide();
+    c.lblArtwork = Named(new QLabel(QStringLiteral("Artwork")), QStringLiteral("lblArtwork"));
+    c.lblArtwork->setToolTip(QStringLiteral("This Machine Has An Artwork File"));
+    c.lblArtwork->hide();
+    row->addWidget(c.picIcon);
+    row->addWidget(c.lblArtwork);
+    row->addStretch();
+    return cabinet;
+}
+
 QWidget* BuildSideColumn(MainControls& c) {
     auto* side = Named(new QWidget, QStringLiteral("picSide"));
     auto* layout = new QVBoxLayout(side);
-    c.lblShots = Named(new QLabel, QStringLiteral("lblShots"));
-    c.lblShots->setWordWrap(true);
-    c.lblShots->setAlignment(Qt::AlignCenter);
-    c.lblShots->hide();
-    layout->addWidget(c.lblShots);
+    layout->addWidget(BuildCabinetRow(c));
     c.cmdArcadeSettings = AddButton(side, "cmdArcadeSettings", QStringLiteral("Arcade Settings"),
                                     QStringLiteral("Settings For Arcade Machines"));
     c.cmdOtherSettings = AddButton(side, "cmdOtherSettings", QStringLiteral("Other Settings"),
@@ -176,9 +205,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(AddLink(side, c, LinkOtherSettings, QStringLiteral("Other Settings")));
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
-    c.picSoftware = Named(new QWidget, QStringLiteral("picSoftware"));
-    c.picSoftware->hide();
-    layout->addWidget(c.picSoftware);
     layout->addStretch();
     layout->addWidget(c.cmdExit);
     layout->addWidget(AddLink(side, c, LinkExit, QStringLiteral("Exit")));
@@ -206,7 +232,8 @@ MainControls BuildMainControls(QMainWindow& window) {
     for (auto [index, link] : c.fraDefaults->MainLinks()) {
         c.lblBLinks[static_cast<std::size_t>(index)] = link;
     }
-    c.fraMaintenance = Named(new QGroupBox, QStringLiteral("fraMaintenance"));
+    c.maintenancePage = new MaintenancePage;
+    c.fraMaintenance = c.maintenancePage;
     for (QWidget* page :
          {BuildListFrame(c), BuildVerifyFrame(c), static_cast<QWidget*>(c.fraDefaults),
           static_cast<QWidget*>(c.fraMaintenance), BuildPleaseWait(c)}) {
@@ -215,6 +242,9 @@ MainControls BuildMainControls(QMainWindow& window) {
     left->addWidget(c.pages, 1);
     left->addLayout(BuildDetailsStrip(c));
     left->addLayout(BuildStartRow(central, c));
+    c.fraDownload = new DownloadPage(central);
+    c.fraDownload->hide();
+    left->addWidget(c.fraDownload);
     top->addLayout(left, 1);
     top->addWidget(BuildSideColumn(c));
     outer->addLayout(top, 1);
@@ -230,6 +260,7 @@ MainControls BuildMainControls(QMainWindow& window) {
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
+    AllowListMenus(c);
     return c;
 }
 

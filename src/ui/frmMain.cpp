@@ -16,6 +16,9 @@
 #include "frmCover.h"
 #include "frmSplash.h"
 #include "tools/MaintainerPaths.h"
+#include "ui/online/DownloadPage.h"
+#include "ui/reports/MaintenancePage.h"
+#include "ui/reports/VerifyPage.h"
 #include "ui/settings/SettingsPage.h"
 
 namespace coinlight {
@@ -76,13 +79,21 @@ void frmMain::ConnectControls() {
             ShowDetails(*list);
         });
     }
+    ConnectReportControls();
     ConnectSettingsControls();
     connect(c.lvAll, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
-    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::PlayArcade);
+    connect(c.lvAvailable, &MachineListView::RowActivated, this, &frmMain::AvailableDoubleClick);
     connect(c.lvOther, &MachineListView::RowActivated, this, &frmMain::PlayOther);
-    connect(c.lvUnavailable, &MachineListView::RowActivated, this, [this] {
-        m_prompter.Message(QStringLiteral("Start"), QStringLiteral("This ROM is unavailable."));
-    });
+    connect(c.lvUnavailable, &MachineListView::RowActivated, this,
+            &frmMain::UnavailableDoubleClick);
+    m_shiftDown.Watch(c.lvAvailable);
+    m_shiftDown.Watch(c.lvUnavailable);
+    m_closeWatch.Watch(this);
+    connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
+    ConnectSoftwareControls();
+    ConnectFavoritesControls();
+    ConnectInformation();
+    ConnectSearch();
 }
 
 void frmMain::LinkClicked(int index) {
@@ -140,6 +151,15 @@ void frmMain::LinkClicked(int index) {
         break;
     case LinkFind:
         Find();
+        break;
+    case LinkAudit:
+        Audit();
+        break;
+    case LinkInfo:
+        Info();
+        break;
+    case LinkListSlots:
+        ListSlots();
         break;
     default:
         break; // the commands behind the other links come with their screens
@@ -199,10 +219,6 @@ void frmMain::AutoRunAtStart() {
     PlayArcade();
 }
 
-void frmMain::NewsAtStart() {
-    // Without a project site address there is no news to fetch, and the step is silent.
-}
-
 void frmMain::StartScrolling() {
     // The information line arrives with the information panel.
 }
@@ -241,7 +257,6 @@ void frmMain::DisableFormButtons() {
           static_cast<QWidget*>(c.lblBLinks[LinkFind])}) {
         control->setEnabled(false);
     }
-    c.picSoftware->hide();
     SetFamilyCheckBoxes(false);
 }
 
@@ -273,15 +288,7 @@ void frmMain::SetFamilyCheckBoxes(bool visible) {
     }
 }
 
-bool frmMain::HasCommand(int link) const {
-    // The audit and the information panel are not built yet: their buttons and links stay
-    // out of sight until they are.
-    return link != LinkAudit && link != LinkInfo;
-}
-
 void frmMain::SetStartCommands(bool enabled) {
-    // Other machines start from their software panel, which is not built yet.
-    enabled = enabled && !m_inOtherView;
     m_controls.cmdStart->setEnabled(enabled);
     m_controls.lblBLinks[LinkStart]->setEnabled(enabled);
 }
@@ -298,11 +305,12 @@ void frmMain::SetLinksOrButtons() {
                                               {c.cmdInfo, LinkInfo},
                                               {c.cmdGameList, LinkReturnList1}};
     for (const auto& [button, link] : twins) {
-        const bool shown = HasCommand(link);
-        button->setVisible(!links && shown);
-        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links && shown);
+        button->setVisible(!links);
+        c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
     ShowMenuStyle();
+    c.verifyPage->SetUseLinks(links);
+    c.maintenancePage->SetUseLinks(links);
 }
 
 void frmMain::EmptyTempFolder() {
@@ -356,13 +364,22 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
     } else if (page == m_controls.fraDefaults) {
         OK();
     } else if (page == m_controls.fraVerify) {
-        ReturnList1();
+        if (m_controls.cmdGameList->isEnabled()) { // not while a report is being made
+            ReturnList1();
+        }
     } else if (page == m_controls.fraMaintenance) {
         ReturnList2();
     }
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (m_verifyRunning) {
+        // MAME is stopped first; the window closes when the verification has ended.
+        m_closeAfterVerify = true;
+        CancelVerify();
+        event->ignore();
+        return;
+    }
     // A settings screen on show turns Exit into Cancel: then nothing is cleaned or saved.
     const bool settingsOpen = m_controls.cmdExit->text() == QStringLiteral("&Cancel") ||
                               m_controls.lblBLinks[LinkExit]->Caption() == QStringLiteral("Cancel");

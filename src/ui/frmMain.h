@@ -12,19 +12,30 @@
 #include "MainControls.h"
 #include "catalogue/CatalogueOutcome.h"
 #include "core/AppContext.h"
+#include "info/DocumentViewers.h"
+#include "info/InfoSelection.h"
 #include "lists/ListLoader.h"
 #include "lists/MachineRows.h"
 #include "lists/SelectionDetails.h"
+#include "online/HttpTransport.h"
+#include "online/SiteAddresses.h"
 #include "options/CategoryRowsCache.h"
 #include "options/MameLocations.h"
+#include "reports/MaintenancePlan.h"
+#include "reports/ReportHeading.h"
+#include "reports/VerifyReports.h"
+#include "settings/MameIniBase.h"
 #include "settings/ProfileSave.h"
 #include "settings/SettingsOk.h"
 #include "settings/SettingsScreens.h"
 #include "settings/StartBoxes.h"
+#include "ui/online/ShiftKeyWatch.h"
+#include "ui/online/WindowCloseWatch.h"
 
 namespace coinlight {
 
 class MachineListView;
+class MameOptionsCapture;
 class Prompter;
 class frmCover;
 class frmSplash;
@@ -66,13 +77,96 @@ public:
     void RefreshListsOther();
     void SortColumn(MachineListView& list, int column);
 
+    // Search
+    /// Puts the cursor in the search field (Ctrl+F, or "/" in a list).
+    void FocusSearch();
+
+    // The options of the MAME in use
+    /// Asks MAME which options it takes and shows those Coinlight writes that it lacks.
+    void CheckMameOptions();
+    /// The settings controls whose options the MAME in use does not take, from what it
+    /// said last; none when it has not been asked. For the settings page, which shows them
+    /// disabled (MarkUnsupportedControls).
+    std::vector<std::string> UnsupportedSettingsControls() const;
+
     // Commands
     void Options();
     void PlayArcade();
     void PlayOther();
-    /// In its "&MAME.Ini" role: shows the mame.ini the selected machine would get.
+    /// The slot listing of the selected other machine, asked of MAME once per run.
+    void ListSlots();
+
+    // Favourites
+    void AddFavorite();
+    void RemoveFavorite();
+    /// `fileName`: "arcadefavschanges.txt" or "otherfavschanges.txt".
+    void FavoriteChanges(const std::string& fileName);
+
+    // Software of other machines
+    /// Throws the software file of `machine` away and loads the panel anew; with an empty
+    /// name throws every machine's file away and does nothing else.
+    void KillSoftsOther(const std::string& machine);
+    /// By its caption: shows the mame.ini the selected machine would get, lists the bad sets
+    /// of a report, or prints the report page.
     void Find();
 
+    // Online
+    void News();
+    void Update();
+    /// The Download button of fraDownload: artwork or samples for every machine.
+    void ArtSamDownload();
+    /// A double click in lvAvailable: with Shift held, a machine without artwork gets its
+    /// artwork downloaded; any other double click starts the machine.
+    void AvailableDoubleClick();
+    void UnavailableDoubleClick();
+    // Audit and reports
+    void Audit();
+    void VerifyROMs();
+    void VerifySamples();
+    /// An empty `lists` means all software; any other value the machine whose software the
+    /// panel loaded last (SetSoftwareMachine).
+    void VerifySoftware(const std::string& lists);
+    void LastROM();
+    void LastSample();
+    void LastSoftware(const std::string& lists);
+    /// Ends a running verification; the page then says it was cancelled.
+    void CancelVerify();
+    void CompareCRCInfos();
+    void WhatROMsChangedReport();
+    void Export();
+    /// The machine whose software was loaded last (SoftwareMachine); the software panel
+    /// keeps it up to date, the software reports read it.
+    void SetSoftwareMachine(std::string machine) { m_softwareMachine = std::move(machine); }
+    const std::string& SoftwareMachine() const { return m_softwareMachine; }
+
+    // Maintenance
+    void Maintenance();
+    void UnneededFileSearch();
+    void UnneededFileRemove();
+    void CleanReports();
+    void CleanOutputDirectories();
+    void DeleteROM();
+    void DeleteSamples();
+
+    // Information, pictures and documents
+    void Info();
+    void ViewShots();
+    void LoadSnapshot();
+    void LoadCabinetIcon();
+    void MAMECommandLines();
+    void MAMEDefaultKeys();
+    void MAMEBGFX();
+    void MAMEGLSL();
+    void MAMEHLSL();
+    void Heritage();
+    void Unlisted();
+
+    /// Where MAME's installed manual is looked for, and how an address is opened in the
+    /// desktop's browser (tests point both elsewhere).
+    void SetMameManual(std::filesystem::path manual) { m_mameManual = std::move(manual); }
+    void SetAddressOpener(std::function<bool(const QString&)> open) {
+        m_openAddress = std::move(open);
+    }
     // Settings screens
     void SettingsArcade();
     void SettingsOther();
@@ -129,7 +223,6 @@ private:
     bool CheckSupportChanges();
     bool RebuildCatalogue(bool newMame);
     bool RebuildFromLists();
-    bool CaptureMameLists();
     bool CreateCatalogueFiles();
     bool ShowCatalogueOutcome(const CatalogueOutcome& outcome);
     bool MergeCategories();
@@ -155,6 +248,8 @@ private:
     void ShowMenuStyle();
     void WireMenu();
     std::function<void()> MenuCommand(std::string_view entry);
+    /// The entries whose command takes the selected row or a fixed argument.
+    std::function<void()> ListCommand(std::string_view entry);
     void SetMenuState(int linkIndex);
     void HighlightMenuLink(int index, bool on);
 
@@ -179,6 +274,14 @@ private:
     void ApplyDetails(const SelectionDetails& details);
     DetailsSource DetailsSourceOf(const MachineListView& list, const MachineRow& row) const;
 
+    // Search
+    void ConnectSearch();
+    /// Narrows `list` to what the search field holds; false when it already showed that.
+    bool ApplySearch(MachineListView& list);
+    void NarrowListOfView();
+    /// "Machines: N", or "Machines: N of M" while a search narrows the list.
+    QString MachineCountText(const MachineListView& list) const;
+
     // Commands' steps
     bool OpenOptions(bool firstRun);
     void CreateMAMEIni();
@@ -190,7 +293,68 @@ private:
     bool RunEmulator(const std::string& commandLine);
     void ShowStandardOutput(const std::string& text);
     void ShowErrorOutput(const std::string& text);
+    /// Starts MAME's -showconfig; the capture keeps the answer when finished.
+    std::unique_ptr<MameOptionsCapture> AskMameForOptions() const;
 
+    // Online steps
+    std::string FetchNews();
+    void ShowNewsPage(const std::string& text, bool greet);
+    bool StoreNewsDate(Day date, std::string* error);
+    void FocusAfterNews();
+    bool DownloadCancelled() const;
+    DownloadOutcome DownloadArtworkFor(const std::string& name);
+    // Reports' steps
+    void ConnectReportControls();
+    MachineListView* AuditList();
+    void RunVerify(VerifyKind kind);
+    void ShowLastReport(VerifyKind kind);
+    void EnterReportPage(const QString& caption);
+    void ShowReportFile(const std::filesystem::path& file);
+    void OfferBadSets();
+    void LeaveReportPage();
+    void ListBadSets();
+    void PrintReportPage();
+    bool RunMame(const std::string& commandLine, const std::function<bool()>& whileRunning);
+    void ShowHeadings(const ReportHeadings& headings);
+    void ShowLink(int index, bool shown);
+    void PrepareMaintenanceEntries(const MachineListView& list);
+    bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
+    std::string MaintenanceMachine();
+
+    // The software panel's steps
+    void ConnectSoftwareControls();
+    void OtherItemClick();
+    void SoftwareTimerTick();
+    void ClearSoftwareStuff();
+    void LoadSoftwareLists();
+    void FinishSoftwareLoad();
+    void LoadListsSoftware(const std::string& machine);
+    void SoftwareOptionClicked();
+    void SoftwareColumnClicked(int column);
+    void SoftwareItemClick();
+    /// The one place a double click or Enter in lvSoftware goes: a rule that must act
+    /// before the start belongs at its top.
+    void SoftwareDoubleClick();
+    void UpdateSoftwareControls();
+    void UpdateStartControls();
+    void FillSoftwareState(MameIniBase& base) const;
+
+    // Favourites' steps
+    void ConnectFavoritesControls();
+    void PrepareListMenu(MachineListView& list);
+    void PurgeBeforeViewing(const std::string& word);
+
+    // Information's steps
+    void ConnectInformation();
+    void InfoSourceClicked(const QString& source);
+    InfoSelection CurrentInfoSelection() const;
+    void SetReturnCommands(bool enabled);
+    void ShowShotsPane(bool open);
+    void LayOutShots();
+    void ShowDocument(DocumentViewer viewer);
+    /// The one document viewer. `afterStart`: the output of a start, whose details strip and
+    /// scrolling line keep what the start left there.
+    void ShowTextPage(const QString& caption, const std::string& text, bool afterStart = false);
     // Settings screens' steps
     void ConnectSettingsControls();
     void DefineCombos();
@@ -224,8 +388,6 @@ private:
     void TickView(QAction* entry);
     void UpdateCommandSet();
     void SetStartCommands(bool enabled);
-    /// Whether the command behind a button and its link exists in this build.
-    bool HasCommand(int link) const;
     void SetFamilyCheckBoxes(bool visible);
     void DisableFormButtons();
     void ShowPleaseWait(const QString& line1, const QString& line2);
@@ -268,6 +430,10 @@ private:
         bool visible;
     };
     std::vector<CoveredCommand> m_coveredCommands; // as they were before a settings screen
+    std::string m_softwareMachine;                 // whose software the panel shows
+    int m_softwareAvailable = 0;                   // iSoftwareA
+    int m_softwareUnavailable = 0;                 // iSoftwareU
+    bool m_skipOtherItemClick = false;             // an option click reloads by itself
     CategoryRowsCache m_categoryCache;
     MameLocations m_mameLocations = SystemMameLocations();
     long long m_currentMameSize = 0;
@@ -275,6 +441,18 @@ private:
     bool m_openOptionsOnActivate = false;
     bool m_refreshBothFamilies = false;
     bool m_activatedOnce = false;
+
+    HttpTransport m_internet;
+    SiteAddresses m_sites = ReadSiteAddresses(ProcessEnvironment());
+    ShiftKeyWatch m_shiftDown; // ShiftDown
+    WindowCloseWatch m_closeWatch;
+    bool m_onlineBusy = false;       // a transfer runs: another online command waits its turn
+    bool m_shotsOn = false;          // ShotsOn: the snapshot pane is open
+    bool m_verifyRunning = false;    // MAME verifies; the window waits for it
+    bool m_cancelVerify = false;     // the user asked to stop it
+    bool m_closeAfterVerify = false; // the window was closed meanwhile
+    std::filesystem::path m_mameManual = DebianManual();
+    std::function<bool(const QString&)> m_openAddress;
     bool m_layoutsRested = false; // while minimized nothing is laid out
 };
 

@@ -8,6 +8,7 @@
 #include "catalogue/AddCatver.h"
 #include "catalogue/CatalogueProgress.h"
 #include "catalogue/CreateSupportFiles.h"
+#include "catalogue/RebuildFromMame.h"
 #include "catalogue/RunMAMEList.h"
 #include "catalogue/SoftwareCatalogue.h"
 #include "core/FileTests.h"
@@ -16,6 +17,7 @@
 #include "frmMain.h"
 #include "frmSplash.h"
 #include "lists/Favorites.h"
+#include "settings/MameOptionsCapture.h"
 
 namespace coinlight {
 
@@ -125,18 +127,6 @@ bool frmMain::ShowCatalogueOutcome(const CatalogueOutcome& outcome) {
     return !outcome.fatalError;
 }
 
-bool frmMain::CaptureMameLists() {
-    const MameProgram mame{m_context.preferences.searchPaths.mame,
-                           m_context.preferences.mame.executable};
-    for (const char* option : {"listxml", "listsoftware"}) {
-        FormCatalogueProgress progress(SplashIfUp(), m_controls);
-        if (!ShowCatalogueOutcome(RunMAMEList(option, mame, m_context.data, progress))) {
-            return false;
-        }
-    }
-    return true;
-}
-
 bool frmMain::CreateCatalogueFiles() {
     FormCatalogueProgress progress(SplashIfUp(), m_controls);
     const SupportFilesResult result =
@@ -157,20 +147,29 @@ bool frmMain::RebuildCatalogue(bool newMame) {
             }
         }
     }
-    if (!CaptureMameLists()) {
-        flags.listsRegenerating = false;
-        return false;
+    // MAME's two lists are made at once, and the catalogue as the machine list arrives.
+    const MameProgram mame{m_context.preferences.searchPaths.mame,
+                           m_context.preferences.mame.executable};
+    // What the MAME takes is asked at the same time, and kept for the settings screens.
+    const auto options = AskMameForOptions();
+    FormCatalogueProgress progress(SplashIfUp(), m_controls);
+    const SupportFilesResult result =
+        RebuildFromMame(mame, m_context.data, m_context.facts.hasCatver, progress, [&] {
+            if (newMame) {
+                Splash().SetMessageOptions(
+                    QStringLiteral("When Options opens, press OK to re-save your selections."));
+            }
+        });
+    const bool created = ShowCatalogueOutcome(result.outcome);
+    if (created) {
+        // A MAME that cannot tell leaves the last answer; nobody needs to hear of it.
+        options->Finish([&progress] { progress.Pump(); });
     }
-    if (newMame) {
-        Splash().SetMessageOptions(
-            QStringLiteral("When Options opens, press OK to re-save your selections."));
-    }
-    const bool created = CreateCatalogueFiles();
     if (created && newMame) {
         PurgeAllFavorites();
         std::error_code ignored;
         std::filesystem::remove(m_context.data.Output() / "changedroms.txt", ignored);
-        KillSoftsOther(m_context.data.Software(), "");
+        coinlight::KillSoftsOther(m_context.data.Software(), "");
     }
     flags.listsRegenerating = false;
     return created && !flags.fatalErrorFlag;

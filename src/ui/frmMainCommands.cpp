@@ -13,6 +13,7 @@
 #include "settings/MameIniBase.h"
 #include "settings/MameIniPreview.h"
 #include "settings/PathList.h"
+#include "settings/RejectedValues.h"
 
 namespace coinlight {
 
@@ -41,6 +42,9 @@ bool frmMain::OpenOptions(bool firstRun) {
         SetLinksOrButtons();
         ApplyListsAppearance();
         ApplyLookAfterOptions();
+    }
+    if (outcome.softwarePathChanged) {
+        KillSoftsOther({}); // availability was measured against the old folders
     }
     const bool otherChanged =
         before.searchPaths.otherRoms != m_context.preferences.searchPaths.otherRoms;
@@ -124,6 +128,7 @@ void frmMain::CreateMAMEIni() {
         base.machine = std::string(row->ShortName());
     }
     base.boxes = CurrentStartBoxes();
+    FillSoftwareState(base);
     if (const auto failure = coinlight::CreateMAMEIni(m_context.preferences, base)) {
         ShowMessage(m_prompter, *failure);
         m_context.flags.fatalErrorFlag = true;
@@ -183,7 +188,6 @@ void frmMain::PlayArcade() {
         ShowMessage(m_prompter, *plan.strayIniWarning);
     }
     m_commandString = plan.commandLine;
-
     if (!RunEmulator(m_commandString)) {
         return;
     }
@@ -226,10 +230,6 @@ bool frmMain::RunEmulator(const std::string& commandLine) {
     return true;
 }
 
-void frmMain::PlayOther() {
-    // Starting other machines needs their software panel; until it exists they cannot start.
-}
-
 void frmMain::ShowStandardOutput(const std::string& text) {
     m_controls.lblScroll->setText(
         QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUpper().simplified());
@@ -237,18 +237,20 @@ void frmMain::ShowStandardOutput(const std::string& text) {
 }
 
 void frmMain::ShowErrorOutput(const std::string& text) {
-    m_controls.fraVerify->setTitle(QStringLiteral("MAME Error Output"));
-    m_controls.rtfVerify->setPlainText(
-        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    ShowPage(m_controls.fraVerify);
+    // A value MAME refused is named with the setting that holds it.
+    ShowTextPage(QStringLiteral("MAME Error Output"), NameRejectingControls(text), true);
 }
 
 void frmMain::Find() {
-    const bool mameIniRole =
-        m_controls.cmdFind->text() == QStringLiteral("&MAME.Ini") ||
-        m_controls.lblBLinks[LinkFind]->Caption() == QStringLiteral("MAME.Ini");
-    if (!mameIniRole) {
-        return; // the other roles of this command come with their reports
+    // The caption says the role: the report page turns the button into its own commands.
+    const QString role = m_controls.cmdFind->text();
+    if (role == QStringLiteral("&Print")) {
+        PrintReportPage();
+        return;
+    }
+    if (role != QStringLiteral("&MAME.Ini")) {
+        ListBadSets();
+        return;
     }
     CreateMAMEIni();
     if (m_context.flags.fatalErrorFlag) {

@@ -3,6 +3,7 @@
 
 #include "MachineListView.h"
 #include "Prompter.h"
+#include "WaitCursor.h"
 #include "core/FileTests.h"
 #include "core/ProfileFile.h"
 #include "frmMain.h"
@@ -10,19 +11,6 @@
 #include "lists/ListLoader.h"
 
 namespace coinlight {
-
-namespace {
-
-/// The hourglass for as long as a routine runs.
-class WaitCursor {
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-} // namespace
 
 void frmMain::ReportLoadCount(bool arcade, int rows) {
     const QString count = QString::number(rows);
@@ -258,34 +246,6 @@ void frmMain::RefreshListsOther() {
     ViewOther();
     c.cmdExit->setEnabled(true);
     c.lblBLinks[LinkExit]->setEnabled(true);
-}
-
-void frmMain::ViewFavoritesArcade() {
-    Preferences& preferences = m_context.preferences;
-    preferences.view.favoriteArcade = m_controls.mnuViewArcadeFavorites->isChecked();
-    if (FileExists(m_context.data.Output() / "arcadefavs.txt")) {
-        RefreshListsArcade();
-        return;
-    }
-    m_prompter.Message(QStringLiteral("Favorite Arcade Machines"),
-                       QStringLiteral("You do not have an Favorite Arcade Machines list.  "),
-                       PromptIcon::Information);
-    preferences.view.favoriteArcade = false;
-    m_controls.mnuViewArcadeFavorites->setChecked(false);
-}
-
-void frmMain::ViewFavoritesOther() {
-    Preferences& preferences = m_context.preferences;
-    preferences.view.favoriteOther = m_controls.mnuViewOtherFavorites->isChecked();
-    if (FileExists(m_context.data.Output() / "otherfavs.txt")) {
-        RefreshListsOther();
-        return;
-    }
-    m_prompter.Message(QStringLiteral("Favorite Other Machines"),
-                       QStringLiteral("You do not have a Favorite Other Machines list.  "),
-                       PromptIcon::Information);
-    preferences.view.favoriteOther = false;
-    m_controls.mnuViewOtherFavorites->setChecked(false);
 }
 
 } // namespace coinlight

@@ -19,6 +19,7 @@
 #include "lists/ListColumns.h"
 #include "options/PathRules.h"
 #include "settings/MameIniBase.h"
+#include "ui/online/DownloadPage.h"
 
 namespace coinlight {
 
@@ -85,6 +86,7 @@ bool frmMain::FormLoad() {
     const EnvironmentLookup environment = ProcessEnvironment();
     m_context.os = environment("OS").value_or("");
     m_context.facts.ideMode = IsIdeMode(environment);
+    m_controls.fraDownload->setVisible(m_context.facts.ideMode);
     m_controls.rtfVerify->clear();
     m_context.facts.hasCatver = FileExists(m_context.data.Support() / "catver.ini");
     BuildListColumns();
@@ -145,7 +147,6 @@ void frmMain::BuildListColumns() {
         list->SetColumns(arcade, m_hiddenColumns);
     }
     m_controls.lvOther->SetColumns(OtherListColumns(), m_hiddenColumns);
-    m_controls.lvSoftware->SetColumns(SoftwareListColumns(), {});
 }
 
 bool frmMain::LoadOptions() {
@@ -204,7 +205,6 @@ bool frmMain::ReadBranch(bool& startOver) {
     }
     preferences.mame.mameExeSize = m_currentMameSize;
     m_controls.mnuViewShots->setChecked(preferences.view.snapshots);
-    m_controls.mnuViewShots->setEnabled(false); // the snapshot pane is not built yet
     m_controls.mnuViewArcadeFavorites->setChecked(preferences.view.favoriteArcade);
     m_controls.mnuViewOtherFavorites->setChecked(preferences.view.favoriteOther);
     return true;
@@ -405,7 +405,9 @@ void frmMain::ApplyListsAppearance() {
     const OtherPreferences& other = m_context.preferences.other;
     const bool starField = other.theme == "Heritage";
     const MainControls& c = m_controls;
-    for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvUnavailable, c.lvSoftware}) {
+    for (QTreeView* list :
+         {static_cast<QTreeView*>(c.lvAll), static_cast<QTreeView*>(c.lvAvailable),
+          static_cast<QTreeView*>(c.lvUnavailable), static_cast<QTreeView*>(c.lvSoftware)}) {
         ApplyListAppearance(*list, other, starField, false);
     }
     // The other list never has the picture, and keeps its own text colour: red marks data.
@@ -443,7 +445,7 @@ void frmMain::ShowSavedView() {
 }
 
 void frmMain::FixAllHidden() {
-    if (m_controls.lvAll->Model().rowCount() != 0) {
+    if (m_controls.lvAll->Model().TotalRows() != 0) {
         return;
     }
     m_prompter.Inform(QStringLiteral("Looks like you may have the filters set to hide everything.  "

@@ -51,10 +51,43 @@ std::function<void()> frmMain::MenuCommand(std::string_view entry) {
         {"mnuReportsRebuild", &frmMain::RebuildReport},
         {"mnuReportsFind", &frmMain::Find},
         {"mnuHelpAbout", &frmMain::About},
+        {"mnuMainAudit", &frmMain::Audit},
+        {"mnuMainInfo", &frmMain::Info},
+        {"mnuMainExport", &frmMain::Export},
+        {"mnuToolsMaintenance", &frmMain::Maintenance},
+        {"mnuToolsCheckOptions", &frmMain::CheckMameOptions},
+        {"mnuReportsVerifyROMs", &frmMain::VerifyROMs},
+        {"mnuReportsLastROM", &frmMain::LastROM},
+        {"mnuReportsVerifySamples", &frmMain::VerifySamples},
+        {"mnuReportsLastSample", &frmMain::LastSample},
+        {"mnuReportsWhatROMsChanged", &frmMain::CompareCRCInfos},
+        {"mnuReportsWhatROMsChangedReport", &frmMain::WhatROMsChangedReport},
+        {"mnuReportsUnlistedMachines", &frmMain::Unlisted},
+        {"mnuHelpHeritage", &frmMain::Heritage},
+        {"mnuHelpCommandLines", &frmMain::MAMECommandLines},
+        {"mnuHelpDefaultKeys", &frmMain::MAMEDefaultKeys},
+        {"mnuHelpBGFX", &frmMain::MAMEBGFX},
+        {"mnuHelpHLSL", &frmMain::MAMEHLSL},
+        {"mnuHelpGLSL", &frmMain::MAMEGLSL},
+        {"mnuHelpNews", &frmMain::News},
+        {"mnuHelpUpdate", &frmMain::Update},
+        {"mnuAddFavorite", &frmMain::AddFavorite},
+        {"mnuRemoveFavorite", &frmMain::RemoveFavorite},
+        {"mnuDeleteROM", &frmMain::DeleteROM},
+        {"mnuDeleteSamples", &frmMain::DeleteSamples},
     };
     if (const auto found = kMethods.find(entry); found != kMethods.end()) {
         return [this, method = found->second] {
             (this->*method)();
+        };
+    }
+    if (const Command command = ListCommand(entry)) {
+        return command;
+    }
+    if (entry == "mnuViewShots") {
+        // The entry's tick is the pane's state, set from options.ini at start as well: its
+        // toggled signal opens and closes the pane.
+        return [] {
         };
     }
     if (entry == "mnuMainPlay") {
@@ -89,6 +122,51 @@ std::function<void()> frmMain::MenuCommand(std::string_view entry) {
         };
     }
     return Command();
+}
+
+std::function<void()> frmMain::ListCommand(std::string_view entry) {
+    const auto selectedLists = [this] {
+        const MachineRow* row = m_controls.lvOther->SelectedMachine();
+        return row != nullptr ? std::string(row->Field(ColSoftwareLists)) : std::string();
+    };
+    if (entry == "mnuReportsVerifyAllSoftware") {
+        return [this] {
+            VerifySoftware({});
+        };
+    }
+    if (entry == "mnuReportsLastAllSoftware") {
+        return [this] {
+            LastSoftware({});
+        };
+    }
+    if (entry == "mnuReportsVerifyMachinesSoftware") {
+        return [this, selectedLists] {
+            VerifySoftware(selectedLists());
+        };
+    }
+    if (entry == "mnuReportsLastMachinesSoftware") {
+        return [this, selectedLists] {
+            LastSoftware(selectedLists());
+        };
+    }
+    if (entry == "mnuReportsFavoriteArcadeChanges") {
+        return [this] {
+            FavoriteChanges("arcadefavschanges.txt");
+        };
+    }
+    if (entry == "mnuReportsFavoriteOtherChanges") {
+        return [this] {
+            FavoriteChanges("otherfavschanges.txt");
+        };
+    }
+    if (entry == "mnuRefreshSoftware") {
+        return [this] {
+            if (const MachineRow* row = m_controls.lvOther->SelectedMachine()) {
+                KillSoftsOther(std::string(row->ShortName()));
+            }
+        };
+    }
+    return {};
 }
 
 void frmMain::WireMenu() {
@@ -148,8 +226,8 @@ void frmMain::SetMenuState(int linkIndex) {
     facts.selectedUnavailable = c.lblPanel[6]->text() == QStringLiteral("Unavailable");
     facts.machineSelected = list->SelectedMachine() != nullptr;
     facts.startEnabled = c.cmdStart->isEnabled();
-    facts.auditEnabled = c.cmdAudit->isEnabled() && HasCommand(LinkAudit);
-    facts.infoEnabled = c.cmdInfo->isEnabled() && HasCommand(LinkInfo);
+    facts.auditEnabled = c.cmdAudit->isEnabled() && list->Model().rowCount() != 0;
+    facts.infoEnabled = c.cmdInfo->isEnabled();
     facts.listHasRows = list->Model().rowCount() != 0;
     for (const MenuEntryState& state : MenuStates(linkIndex, facts)) {
         if (QAction* action = c.menus->Action(state.name)) {

@@ -4,6 +4,7 @@
 #include "MachineListView.h"
 #include "Prompter.h"
 #include "frmMain.h"
+#include "info/InfoSourceList.h"
 
 namespace coinlight {
 
@@ -75,13 +76,15 @@ void frmMain::UpdateCommandSet() {
 }
 
 void frmMain::ShowListInView(MachineListView& list, const ListState& saved) {
-    m_controls.lblPanel[0]->setText(QStringLiteral("Machines: ") +
-                                    QString::number(list.Model().rowCount()));
+    ApplySearch(list); // the search field narrows whichever list is on show
+    m_controls.lblPanel[0]->setText(MachineCountText(list));
     m_controls.lblPanel[1]->setToolTip(&list == m_controls.lvOther ? QStringLiteral("Software")
                                                                    : QStringLiteral("Machine"));
     MachineListModel& model = list.Model();
     if (model.rowCount() == 0) {
         PanelClearSoftware();
+        LoadSnapshot();
+        LoadCabinetIcon();
         return;
     }
     if (model.SortKey() != saved.sortKey || model.SortOrder() != saved.sortOrder) {
@@ -164,15 +167,42 @@ void frmMain::ViewOther() {
     }
     SetLinksOrButtons();
     UpdateCommandSet();
+    c.picSoftware->show();
     ShowListInView(*c.lvOther, m_context.preferences.view.other);
+    if (c.lvOther->Model().rowCount() != 0) {
+        c.picSoftware->Timer()->stop(); // the selection just made needs no second load
+        ClearSoftwareStuff();
+        LoadSoftwareLists();
+    }
     CreateMAMEIni();
 }
 
 void frmMain::PanelClearSoftware() {
-    PanelTextHide();
-    m_controls.lblPanel[0]->setText(QStringLiteral("Machines: 0"));
-    SetStartCommands(false);
+    const MainControls& c = m_controls;
+    for (std::size_t i = 1; i < c.lblPanel.size(); ++i) {
+        c.lblPanel[i]->clear();
+    }
+    if (m_inOtherView) {
+        const MachineRow* row = c.lvOther->SelectedMachine();
+        if (c.lvOther->Model().rowCount() == 0) {
+            SetStartCommands(false);
+        } else if (row != nullptr && row->Field(ColSoftwareLists) == "N/A") {
+            UpdateStartControls();
+            c.lblPanel[1]->setText(
+                QStringLiteral(" *** This Machine Does Not Have Any Software Lists ***"));
+        }
+    } else {
+        for (QWidget* control :
+             {static_cast<QWidget*>(c.cmdStart), static_cast<QWidget*>(c.cmdAudit),
+              static_cast<QWidget*>(c.cmdInfo)}) {
+            control->setEnabled(false);
+        }
+        for (int link : {LinkStart, LinkAudit, LinkInfo}) {
+            c.lblBLinks[static_cast<std::size_t>(link)]->hide();
+        }
+    }
     SetFamilyCheckBoxes(false);
+    c.chkAutoRun->setChecked(false);
 }
 
 DetailsSource frmMain::DetailsSourceOf(const MachineListView& list, const MachineRow& row) const {
@@ -202,6 +232,8 @@ void frmMain::ShowDetails(MachineListView& list) {
     ApplyDetails(DetailsOf(*row, DetailsSourceOf(list, *row),
                            m_context.preferences.other.mergedRomSets, m_arcadeRomFolders,
                            m_context.data.Settings(), current));
+    LoadSnapshot();
+    LoadCabinetIcon();
 }
 
 void frmMain::ApplyDetails(const SelectionDetails& details) {
@@ -219,6 +251,7 @@ void frmMain::ApplyDetails(const SelectionDetails& details) {
 void frmMain::ReturnList1() {
     const MainControls& c = m_controls;
     ShowPage(c.fraList);
+    c.lstInfo->Retire();
     c.rtfVerify->clear();
     c.cmdFind->setText(QStringLiteral("&MAME.Ini"));
     c.cmdFind->setToolTip(
@@ -228,14 +261,29 @@ void frmMain::ReturnList1() {
     c.cmdExit->setText(QStringLiteral("E&xit"));
     c.cmdExit->setToolTip(QStringLiteral("Closes Coinlight"));
     MachineListView* list = ListOfView();
+    // A text page empties the strip and disables the settings commands: the end of the list
+    // set-up brings both back.
+    c.lblPanel[0]->setText(QStringLiteral("Machines: ") +
+                           QString::number(list->Model().rowCount()));
+    UpdateCommandSet();
+    SetFamilyCheckBoxes(!m_inOtherView && list != c.lvUnavailable);
     if (list->Model().rowCount() != 0) {
         ShowDetails(*list);
     }
     SetStartCommands(list != c.lvUnavailable && list->Model().rowCount() != 0);
+    if (m_inOtherView) {
+        UpdateStartControls(); // a red row stays unstartable
+    }
 }
 
 void frmMain::ReturnList2() {
     ShowPage(m_controls.fraList);
+    UncoverCommands();
+    MachineListView* list = ListOfView();
+    if (list->Model().rowCount() != 0) {
+        ShowDetails(*list);
+    }
+    LoadSnapshot();
 }
 
 } // namespace coinlight

@@ -14,19 +14,24 @@ inline std::string_view AsText(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// A folder of this process's own for readers that take files, emptied at each input.
+/// A folder of this process's own for readers that take files, emptied at each input and
+/// removed when the process ends.
 inline std::filesystem::path ScratchFolder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() /
-                    ("coinlight-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(path);
-        return path;
-    }();
+    struct Folder {
+        std::filesystem::path path = std::filesystem::temp_directory_path() /
+                                     ("coinlight-fuzz-" + std::to_string(::getpid()));
+        Folder() { std::filesystem::create_directories(path); }
+        ~Folder() {
+            std::error_code ignored;
+            std::filesystem::remove_all(path, ignored);
+        }
+    };
+    static const Folder folder;
     std::error_code ignored;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, ignored)) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path, ignored)) {
         std::filesystem::remove_all(entry.path(), ignored);
     }
-    return folder;
+    return folder.path;
 }
 
 inline void WriteBytes(const std::filesystem::path& file, std::string_view bytes) {

@@ -14,10 +14,19 @@ namespace coinlight {
 
 namespace {
 
+/// The entries the window's parts reach directly, for their checks, ticks and states.
 void TakeMenuPointers(MainControls& c) {
     const MenuTree& tree = *c.menus;
+    c.mnuMain = tree.Menu("mnuMain");
     c.mnuView = tree.Menu("mnuView");
     c.mnuTools = tree.Menu("mnuTools");
+    c.mnuReports = tree.Menu("mnuReports");
+    c.mnuHelp = tree.Menu("mnuHelp");
+    c.mnuRClick = tree.Menu("mnuRClick");
+    c.mnuReportsROMs = tree.Menu("mnuReportsROMs");
+    c.mnuReportsSoftware = tree.Menu("mnuReportsSoftware");
+    c.mnuReportsSamples = tree.Menu("mnuReportsSamples");
+    c.mnuReportsWhatsChanged = tree.Menu("mnuReportsWhatsChanged");
     c.mnuViewAll = tree.Action("mnuViewAll");
     c.mnuViewAvailable = tree.Action("mnuViewAvailable");
     c.mnuViewUnavailable = tree.Action("mnuViewUnavailable");
@@ -25,13 +34,45 @@ void TakeMenuPointers(MainControls& c) {
     c.mnuViewArcadeFavorites = tree.Action("mnuViewArcadeFavorites");
     c.mnuViewOtherFavorites = tree.Action("mnuViewOtherFavorites");
     c.mnuViewShots = tree.Action("mnuViewShots");
-    c.mnuMainOptions = tree.Action("mnuToolsOptions");
+    c.mnuMainInfo = tree.Action("mnuMainInfo");
+    c.mnuMainAudit = tree.Action("mnuMainAudit");
+    c.mnuMainExport = tree.Action("mnuMainExport");
+    c.mnuMainExit = tree.Action("mnuMainExit");
     c.mnuToolsArcade = tree.Action("mnuToolsArcade");
     c.mnuToolsOther = tree.Action("mnuToolsOther");
     c.mnuToolsCustom = tree.Action("mnuToolsCustom");
     c.mnuToolsRebuild = tree.Action("mnuToolsRebuild");
+    c.mnuToolsMaintenance = tree.Action("mnuToolsMaintenance");
+    c.mnuToolsCheckOptions = tree.Action("mnuToolsCheckOptions");
+    c.mnuReportsVerifyROMs = tree.Action("mnuReportsVerifyROMs");
+    c.mnuReportsLastROM = tree.Action("mnuReportsLastROM");
+    c.mnuReportsVerifyAllSoftware = tree.Action("mnuReportsVerifyAllSoftware");
+    c.mnuReportsLastAllSoftware = tree.Action("mnuReportsLastAllSoftware");
+    c.mnuReportsVerifyMachinesSoftware = tree.Action("mnuReportsVerifyMachinesSoftware");
+    c.mnuReportsLastMachinesSoftware = tree.Action("mnuReportsLastMachinesSoftware");
+    c.mnuReportsVerifySamples = tree.Action("mnuReportsVerifySamples");
+    c.mnuReportsLastSample = tree.Action("mnuReportsLastSample");
+    c.mnuReportsWhatROMsChanged = tree.Action("mnuReportsWhatROMsChanged");
+    c.mnuReportsWhatROMsChangedReport = tree.Action("mnuReportsWhatROMsChangedReport");
     c.mnuReportsRebuild = tree.Action("mnuReportsRebuild");
-    c.mnuMainExit = tree.Action("mnuMainExit");
+    c.mnuReportsFavoriteArcadeChanges = tree.Action("mnuReportsFavoriteArcadeChanges");
+    c.mnuReportsFavoriteOtherChanges = tree.Action("mnuReportsFavoriteOtherChanges");
+    c.mnuReportsUnlistedMachines = tree.Action("mnuReportsUnlistedMachines");
+    c.mnuReportsFind = tree.Action("mnuReportsFind");
+    c.mnuHelpHeritage = tree.Action("mnuHelpHeritage");
+    c.mnuHelpCommandLines = tree.Action("mnuHelpCommandLines");
+    c.mnuHelpDefaultKeys = tree.Action("mnuHelpDefaultKeys");
+    c.mnuHelpBGFX = tree.Action("mnuHelpBGFX");
+    c.mnuHelpHLSL = tree.Action("mnuHelpHLSL");
+    c.mnuHelpGLSL = tree.Action("mnuHelpGLSL");
+    c.mnuHelpNews = tree.Action("mnuHelpNews");
+    c.mnuHelpUpdate = tree.Action("mnuHelpUpdate");
+    c.mnuAddFavorite = tree.Action("mnuAddFavorite");
+    c.mnuRemoveFavorite = tree.Action("mnuRemoveFavorite");
+    c.mnuRefreshSoftware = tree.Action("mnuRefreshSoftware");
+    c.mnuDeleteROM = tree.Action("mnuDeleteROM");
+    c.mnuDeleteSamples = tree.Action("mnuDeleteSamples");
+    c.mnuMainOptions = tree.Action("mnuToolsOptions");
 }
 
 } // namespace

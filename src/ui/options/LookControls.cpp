@@ -76,8 +76,8 @@ void LookControls::BuildForm() {
     fontLabel->setBuddy(m_cboGUIFont);
     m_chkListGridlines =
         Named(new QCheckBox(QStringLiteral("Grid Lines In Lists"), this), "chkListGridlines");
-    m_chkStarfield = Named(new QCheckBox(QStringLiteral("Show Starfield Image In Lists"), this),
-                           "chkStarfield");
+    m_chkStarfield =
+        Named(new QCheckBox(QStringLiteral("Show Starfield Image In Lists"), this), "chkStarfield");
 
     // The sample: a patch of list background, the star field over it when the theme has
     // one, and a line of list text on top.
@@ -217,8 +217,8 @@ void LookControls::EnableColourControls(const ThemePreview& preview) {
     m_imgStarfield->setVisible(preview.starField);
     m_odclListBackColor->setVisible(preview.listBackChoice);
     m_odclListBackColor->setEnabled(preview.listBackChoice);
-    for (QWidget* control : std::initializer_list<QWidget*>{m_lblListBackColor, m_lblListFontColor,
-                                                            m_cmdFontColor}) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{m_lblListBackColor, m_lblListFontColor, m_cmdFontColor}) {
         control->setEnabled(preview.colourControls);
     }
 }

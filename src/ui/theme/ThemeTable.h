@@ -44,11 +44,11 @@ bool UserListColourApplies(Colour colour);
 /// What the Options dialog's sample of the lists shows for a theme, and which of its colour
 /// controls the user may touch.
 struct ThemePreview {
-    bool starField = false;        // imgStarfield
-    bool listBackChoice = false;   // odclListBackColor shown and enabled
-    bool colourControls = false;   // its caption, the font colour's and cmdFontColor enabled
-    Colour back;                   // lblListBack
-    Colour text;                   // lblListText
+    bool starField = false;      // imgStarfield
+    bool listBackChoice = false; // odclListBackColor shown and enabled
+    bool colourControls = false; // its caption, the font colour's and cmdFontColor enabled
+    Colour back;                 // lblListBack
+    Colour text;                 // lblListText
 };
 
 /// The heritage themes show the user's list colours; the others their own back and text.
