@@ -26,5 +26,6 @@ std::vector<ToolCommand> InfoCommands();
 std::vector<ToolCommand> RebuildCommands();
 std::vector<ToolCommand> OtherLaunchCommands();
 std::vector<ToolCommand> OptionCheckCommands();
+std::vector<ToolCommand> AuthoringCommands();
 
 } // namespace coinlight

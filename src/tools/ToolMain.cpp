@@ -8,8 +8,9 @@ namespace {
 
 std::vector<ToolCommand> AllCommands() {
     std::vector<ToolCommand> commands;
-    for (auto group : {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands,
-                       InfoCommands, OtherLaunchCommands, ReportCommands, OptionCheckCommands}) {
+    for (auto group :
+         {IniCommands, CatalogueCommands, SettingsCommands, RebuildCommands, InfoCommands,
+          OtherLaunchCommands, ReportCommands, OptionCheckCommands, AuthoringCommands}) {
         for (const auto& command : group()) {
             commands.push_back(command);
         }

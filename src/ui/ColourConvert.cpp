@@ -1,36 +1,15 @@
 #include "ColourConvert.h"
 
+#include "theme/SystemColourTable.h"
+
 namespace coinlight {
-
-namespace {
-
-QPalette::ColorRole SystemRole(std::uint32_t index) {
-    switch (index) {
-    case 2: // active caption
-    case 27:
-        return QPalette::Highlight;
-    case 5: // window background
-        return QPalette::Base;
-    case 8: // window text
-        return QPalette::Text;
-    case 15: // button face
-        return QPalette::Button;
-    case 16: // button shadow
-        return QPalette::Dark;
-    case 26: // hot-tracked item
-        return QPalette::Link;
-    case 28:
-        return QPalette::Midlight;
-    default:
-        return QPalette::Window;
-    }
-}
-
-} // namespace
 
 QColor ToQColor(Colour colour, const QPalette& palette) {
     if (colour.IsSystemColour()) {
-        return palette.color(SystemRole(colour.value & 0xFFu));
+        // An index no table knows reads as the window's colour rather than failing.
+        const auto system = FindSystemColour(colour.value & 0xFFu);
+        return system ? palette.color(system->group, system->role)
+                      : palette.color(QPalette::Window);
     }
     const std::uint32_t value = colour.value;
     return QColor(static_cast<int>(value & 0xFFu), static_cast<int>((value >> 8) & 0xFFu),

@@ -19,15 +19,21 @@ void LinkLabel::SetCaption(const QString& caption) {
 
 void LinkLabel::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange) {
+    // The colour is written into the text: a link's colour is otherwise fixed when the text
+    // is parsed, from the application's palette, and a theme's would never show.
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::PaletteChange) {
         Render();
     }
 }
 
 void LinkLabel::Render() {
     const QString escaped = m_caption.toHtmlEscaped();
-    setText(isEnabled() ? QStringLiteral("<a href=\"#\">%1</a>").arg(escaped)
-                        : QStringLiteral("<span style=\"color:#8a8a8a\">%1</span>").arg(escaped));
+    const QPalette& colours = palette();
+    setText(isEnabled() ? QStringLiteral("<a href=\"#\" style=\"color:%1\">%2</a>")
+                              .arg(colours.color(QPalette::Link).name(), escaped)
+                        : QStringLiteral("<span style=\"color:%1\">%2</span>")
+                              .arg(colours.color(QPalette::Disabled, QPalette::WindowText).name(),
+                                   escaped));
 }
 
 } // namespace coinlight

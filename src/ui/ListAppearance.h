@@ -1,15 +1,10 @@
 #pragma once
 
-#include <QBrush>
-
 #include "core/Preferences.h"
 
 class QTreeView;
 
 namespace coinlight {
-
-/// The night sky behind the lists of the classic look: a dark tile with stars.
-QBrush StarFieldBrush();
 
 /// The look of one list from the preferences: back colour (or the star field of the
 /// classic theme), text colour unless the list keeps its own, font size and grid lines.

@@ -116,6 +116,34 @@ void MachineListModel::sort(int column, Qt::SortOrder order) {
     Sort(column, order == Qt::DescendingOrder);
 }
 
+void MachineListModel::SetItemColours(QColor regular, QColor unavailable) {
+    if (regular == m_regularColour && unavailable == m_unavailableColour) {
+        return;
+    }
+    m_regularColour = regular;
+    m_unavailableColour = unavailable;
+    if (!m_order.empty()) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                         {Qt::ForegroundRole});
+    }
+}
+
+QColor MachineListModel::ItemColour(int row) const {
+    return data(index(row, 0), Qt::ForegroundRole).value<QColor>();
+}
+
+void MachineListModel::SetMarkedMachine(std::string shortName, QIcon marker, QIcon blank) {
+    const int before = RowOfShortName(m_markedMachine);
+    m_markedMachine = std::move(shortName);
+    m_markerIcon = std::move(marker);
+    m_blankIcon = std::move(blank);
+    for (const int row : {before, RowOfShortName(m_markedMachine)}) {
+        if (row >= 0) {
+            emit dataChanged(index(row, 0), index(row, 0), {Qt::DecorationRole});
+        }
+    }
+}
+
 int MachineListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(Shown().size());
 }
@@ -133,8 +161,12 @@ QVariant MachineListModel::data(const QModelIndex& index, int role) const {
         const std::string_view text = row->Field(index.column());
         return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     }
-    if (role == Qt::ForegroundRole && m_marksUnavailable && !row->Available()) {
-        return QColor(Qt::red);
+    if (role == Qt::ForegroundRole && m_marksUnavailable) {
+        const QColor colour = row->Available() ? m_regularColour : m_unavailableColour;
+        return colour.isValid() ? QVariant(colour) : QVariant();
+    }
+    if (role == Qt::DecorationRole && index.column() == 0 && !m_markerIcon.isNull()) {
+        return row->ShortName() == m_markedMachine ? m_markerIcon : m_blankIcon;
     }
     return {};
 }

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include <QAbstractTableModel>
+#include <QColor>
+#include <QIcon>
 
 #include "lists/ListColumns.h"
 #include "lists/MachineRows.h"
@@ -44,6 +46,18 @@ public:
 
     /// Sorts by a column; `descending` as the list's sort order 1.
     void Sort(int column, bool descending);
+
+    /// The text colours of a list that marks missing files: its ordinary rows take `regular`
+    /// (an invalid colour leaves them to the view's palette), the missing ones `unavailable`.
+    /// A theme changes two values here instead of touching every row.
+    void SetItemColours(QColor regular, QColor unavailable);
+    QColor ItemColour(int row) const;
+
+    /// The marker beside one machine (SetIconOther); the other rows get `blank`, so that every
+    /// description starts at the same place. An empty name marks none.
+    void SetMarkedMachine(std::string shortName, QIcon marker, QIcon blank);
+    const std::string& MarkedMachine() const { return m_markedMachine; }
+
     int SortKey() const { return m_sortKey; }
     int SortOrder() const { return m_descending ? 1 : 0; }
 
@@ -69,6 +83,11 @@ private:
     int m_sortKey = 0;
     bool m_descending = false;
     bool m_sorted = false;
+    QColor m_regularColour;
+    QColor m_unavailableColour = QColor(Qt::red);
+    std::string m_markedMachine;
+    QIcon m_markerIcon;
+    QIcon m_blankIcon;
 };
 
 } // namespace coinlight

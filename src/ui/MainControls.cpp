@@ -8,6 +8,7 @@
 
 #include "MachineListView.h"
 #include "MachineSearchField.h"
+#include "chrome/TitleArea.h"
 #include "info/InfoSourceList.h"
 #include "info/SnapshotPane.h"
 #include "ui/online/DownloadPage.h"
@@ -28,13 +29,6 @@ QString IndexedName(const char* name, int index) {
     return QStringLiteral("%1_%2").arg(QString::fromLatin1(name)).arg(index);
 }
 
-QAction* AddAction(QMenu* menu, const char* name, const QString& caption, bool checkable = false) {
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setCheckable(checkable);
-    return action;
-}
-
 QPushButton* AddButton(QWidget* parent, const char* name, const QString& caption,
                        const QString& tip = {}) {
     auto* button = Named(new QPushButton(caption, parent), QString::fromLatin1(name));
@@ -49,165 +43,7 @@ LinkLabel* AddLink(QWidget* parent, MainControls& controls, int index, const QSt
     return link;
 }
 
-void BuildMenus(QMainWindow& window, MainControls& c) {
-    QMenu* main = window.menuBar()->addMenu(QStringLiteral("&Main"));
-    main->setObjectName(QStringLiteral("mnuMain"));
-    c.mnuMain = main;
-    c.mnuMainInfo = AddAction(main, "mnuMainInfo", QStringLiteral("Information"));
-    c.mnuMainExit = AddAction(main, "mnuMainExit", QStringLiteral("Exit"));
-
-    c.mnuView = window.menuBar()->addMenu(QStringLiteral("&View"));
-    c.mnuView->setObjectName(QStringLiteral("mnuView"));
-    c.mnuViewAll = AddAction(c.mnuView, "mnuViewAll", QStringLiteral("All Arcade Machines"), true);
-    c.mnuViewAvailable =
-        AddAction(c.mnuView, "mnuViewAvailable", QStringLiteral("Available Arcade Machines"), true);
-    c.mnuViewUnavailable = AddAction(c.mnuView, "mnuViewUnavailable",
-                                     QStringLiteral("Unavailable Arcade Machines"), true);
-    c.mnuViewArcadeFavorites = AddAction(c.mnuView, "mnuViewArcadeFavorites",
-                                         QStringLiteral("Favorite Arcade Machines"), true);
-    c.mnuView->addSeparator();
-    c.mnuViewOtherMachines =
-        AddAction(c.mnuView, "mnuViewOtherMachines", QStringLiteral("Other Machines"), true);
-    c.mnuViewOtherFavorites = AddAction(c.mnuView, "mnuViewOtherFavorites",
-                                        QStringLiteral("Favorite Other Machines"), true);
-    c.mnuView->addSeparator();
-    c.mnuViewShots = AddAction(c.mnuView, "mnuViewShots", QStringLiteral("Snapshots"), true);
-
-    QMenu* tools = window.menuBar()->addMenu(QStringLiteral("&Tools"));
-    tools->setObjectName(QStringLiteral("mnuTools"));
-    c.mnuTools = tools;
-    c.mnuToolsArcade = AddAction(tools, "mnuToolsArcade", QStringLiteral("Arcade Settings..."));
-    c.mnuToolsOther = AddAction(tools, "mnuToolsOther", QStringLiteral("Other Settings..."));
-    c.mnuToolsCustom = AddAction(tools, "mnuToolsCustom", QStringLiteral("Custom Settings..."));
-    c.mnuToolsRebuild = AddAction(tools, "mnuToolsRebuild", QStringLiteral("Rebuild Settings"));
-    // The report belongs to the reports menu once there is one.
-    c.mnuReportsRebuild =
-        AddAction(tools, "mnuReportsRebuild", QStringLiteral("Rebuild Settings Report"));
-    tools->addSeparator();
-    c.mnuMainOptions = AddAction(tools, "mnuToolsOptions", QStringLiteral("Options..."));
-    c.mnuToolsCheckOptions =
-        AddAction(tools, "mnuToolsCheckOptions", QStringLiteral("Check MAME Options"));
-}
-
-/// The menu of that name, made at the end of the bar unless another part made it first.
-QMenu* MenuNamed(QMainWindow& window, const char* name, const QString& title) {
-    for (QAction* action : window.menuBar()->actions()) {
-        if (action->menu() != nullptr && action->menu()->objectName() == QLatin1String(name)) {
-            return action->menu();
-        }
-    }
-    QMenu* menu = window.menuBar()->addMenu(title);
-    menu->setObjectName(QString::fromLatin1(name));
-    return menu;
-}
-
-void BuildDocumentMenus(QMainWindow& window, MainControls& c) {
-    QMenu* reports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
-    c.mnuReportsUnlistedMachines =
-        AddAction(reports, "mnuReportsUnlistedMachines", QStringLiteral("Unlisted Machines"));
-    QMenu* help = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
-    c.mnuHelpHeritage = AddAction(help, "mnuHelpHeritage", QStringLiteral("Coinlight Info"));
-    c.mnuHelpCommandLines =
-        AddAction(help, "mnuHelpCommandLines", QStringLiteral("MAME Command-Line Options"));
-    c.mnuHelpDefaultKeys =
-        AddAction(help, "mnuHelpDefaultKeys", QStringLiteral("MAME Default Keys"));
-    c.mnuHelpBGFX = AddAction(help, "mnuHelpBGFX", QStringLiteral("MAME BGFX"));
-    c.mnuHelpHLSL = AddAction(help, "mnuHelpHLSL", QStringLiteral("MAME HLSL"));
-    c.mnuHelpGLSL = AddAction(help, "mnuHelpGLSL", QStringLiteral("MAME GLSL"));
-}
-
-/// The news and the update check, behind the documents in the Help menu.
-void BuildOnlineMenu(QMainWindow& window, MainControls& c) {
-    c.mnuHelp = MenuNamed(window, "mnuHelp", QStringLiteral("&Help"));
-    c.mnuHelpNews = AddAction(c.mnuHelp, "mnuHelpNews", QStringLiteral("Coinlight News"));
-    c.mnuHelpUpdate = AddAction(c.mnuHelp, "mnuHelpUpdate", QStringLiteral("Check For Update"));
-}
-
-void BuildFavoritesReports(QMainWindow& window, MainControls& c) {
-    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
-    c.mnuReportsFavoriteArcadeChanges =
-        AddAction(c.mnuReports, "mnuReportsFavoriteArcadeChanges",
-                  QStringLiteral("Favorite Arcade Machine Changes"));
-    c.mnuReportsFavoriteOtherChanges = AddAction(c.mnuReports, "mnuReportsFavoriteOtherChanges",
-                                                 QStringLiteral("Favorite Other Machine Changes"));
-}
-
-QMenu* AddSubmenu(QMenu* menu, const char* name, const QString& caption) {
-    QMenu* submenu = menu->addMenu(caption);
-    submenu->setObjectName(QString::fromLatin1(name));
-    return submenu;
-}
-
-/// The entries of the audit, the reports and the maintenance commands on the menus.
-void BuildReportMenus(QMainWindow& window, MainControls& c) {
-    c.mnuMainAudit = new QAction(QStringLiteral("Audit"), c.mnuMain);
-    c.mnuMainAudit->setObjectName(QStringLiteral("mnuMainAudit"));
-    c.mnuMainExport = new QAction(QStringLiteral("Export List"), c.mnuMain);
-    c.mnuMainExport->setObjectName(QStringLiteral("mnuMainExport"));
-    c.mnuMain->insertAction(c.mnuMainInfo, c.mnuMainAudit);
-    c.mnuMain->insertAction(c.mnuMainExit, c.mnuMainExport);
-
-    c.mnuToolsMaintenance = new QAction(QStringLiteral("Maintenance..."), c.mnuTools);
-    c.mnuToolsMaintenance->setObjectName(QStringLiteral("mnuToolsMaintenance"));
-    c.mnuTools->insertAction(c.mnuMainOptions, c.mnuToolsMaintenance);
-
-    c.mnuReports = MenuNamed(window, "mnuReports", QStringLiteral("&Reports"));
-    // The reports come first, the favourites' changes, the documents and the ini after them.
-    for (QAction* later : {c.mnuReportsFavoriteArcadeChanges, c.mnuReportsFavoriteOtherChanges,
-                           c.mnuReportsUnlistedMachines}) {
-        c.mnuReports->removeAction(later);
-    }
-    c.mnuReportsROMs = AddSubmenu(c.mnuReports, "mnuReportsROMs", QStringLiteral("ROMs"));
-    c.mnuReportsVerifyROMs =
-        AddAction(c.mnuReportsROMs, "mnuReportsVerifyROMs", QStringLiteral("Verify All ROMs"));
-    c.mnuReportsLastROM =
-        AddAction(c.mnuReportsROMs, "mnuReportsLastROM", QStringLiteral("Last ROMs Report"));
-    c.mnuReportsSoftware =
-        AddSubmenu(c.mnuReports, "mnuReportsSoftware", QStringLiteral("Software"));
-    c.mnuReportsVerifyAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsVerifyAllSoftware",
-                                              QStringLiteral("Verify All Software"));
-    c.mnuReportsLastAllSoftware = AddAction(c.mnuReportsSoftware, "mnuReportsLastAllSoftware",
-                                            QStringLiteral("Last All Software Report"));
-    c.mnuReportsVerifyMachinesSoftware =
-        AddAction(c.mnuReportsSoftware, "mnuReportsVerifyMachinesSoftware",
-                  QStringLiteral("Verify Machine's Software"));
-    c.mnuReportsLastMachinesSoftware = AddAction(
-        c.mnuReportsSoftware, "mnuReportsLastMachinesSoftware",
-        QStringLiteral("Last Machine's Software Report (May Not Be Current Selected Machine)"));
-    c.mnuReportsSamples = AddSubmenu(c.mnuReports, "mnuReportsSamples", QStringLiteral("Samples"));
-    c.mnuReportsVerifySamples = AddAction(c.mnuReportsSamples, "mnuReportsVerifySamples",
-                                          QStringLiteral("Verify All Samples"));
-    c.mnuReportsLastSample = AddAction(c.mnuReportsSamples, "mnuReportsLastSample",
-                                       QStringLiteral("Last Samples Report"));
-    c.mnuReportsWhatsChanged =
-        AddSubmenu(c.mnuReports, "mnuReportsWhatsChanged", QStringLiteral("What's Changed"));
-    c.mnuReportsWhatROMsChanged = AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChanged",
-                                            QStringLiteral("What ROMs Changed"));
-    c.mnuReportsWhatROMsChangedReport =
-        AddAction(c.mnuReportsWhatsChanged, "mnuReportsWhatROMsChangedReport",
-                  QStringLiteral("Last What ROMs Changed Report"));
-    // The settings' rebuild report has waited in Tools for this menu.
-    c.mnuTools->removeAction(c.mnuReportsRebuild);
-    c.mnuReports->addAction(c.mnuReportsRebuild);
-    c.mnuReports->addAction(c.mnuReportsFavoriteArcadeChanges);
-    c.mnuReports->addAction(c.mnuReportsFavoriteOtherChanges);
-    c.mnuReports->addAction(c.mnuReportsUnlistedMachines);
-    c.mnuReports->addSeparator();
-    c.mnuReportsFind = AddAction(c.mnuReports, "mnuReportsFind", QStringLiteral("MAME.Ini"));
-
-    c.mnuDeleteROM = AddAction(c.mnuRClick, "mnuDeleteROM", QStringLiteral("Delete ROM"));
-    c.mnuDeleteSamples =
-        AddAction(c.mnuRClick, "mnuDeleteSamples", QStringLiteral("Delete &Samples"));
-}
-
-void BuildListMenu(QMainWindow& window, MainControls& c) {
-    c.mnuRClick = new QMenu(&window);
-    c.mnuRClick->setObjectName(QStringLiteral("mnuRClick"));
-    c.mnuAddFavorite = AddAction(c.mnuRClick, "mnuAddFavorite", QStringLiteral("Add To Favorites"));
-    c.mnuRemoveFavorite =
-        AddAction(c.mnuRClick, "mnuRemoveFavorite", QStringLiteral("Remove From Favorites"));
-    c.mnuRefreshSoftware =
-        AddAction(c.mnuRClick, "mnuRefreshSoftware", QStringLiteral("Refresh Software"));
+void AllowListMenus(MainControls& c) {
     for (MachineListView* list : {c.lvAll, c.lvAvailable, c.lvOther}) {
         list->setContextMenuPolicy(Qt::CustomContextMenu);
     }
@@ -370,9 +206,6 @@ QWidget* BuildSideColumn(MainControls& c) {
     layout->addWidget(c.cmdFind);
     layout->addWidget(AddLink(side, c, LinkFind, QStringLiteral("MAME.Ini")));
     layout->addStretch();
-    c.lblVersion = Named(new QLabel, QStringLiteral("lblVersion"));
-    c.lblVersion->setAlignment(Qt::AlignCenter);
-    layout->addWidget(c.lblVersion);
     layout->addWidget(c.cmdExit);
     layout->addWidget(AddLink(side, c, LinkExit, QStringLiteral("Exit")));
     side->setFixedWidth(2430 / 15 + 40);
@@ -387,9 +220,7 @@ void SetLinkText(LinkLabel* link, const QString& text) {
 
 MainControls BuildMainControls(QMainWindow& window) {
     MainControls c;
-    BuildMenus(window, c);
-    BuildDocumentMenus(window, c);
-    BuildOnlineMenu(window, c);
+    BuildTitleArea(window, c);
 
     auto* central = Named(new QWidget(&window), QStringLiteral("central"));
     auto* outer = new QVBoxLayout(central);
@@ -422,18 +253,14 @@ MainControls BuildMainControls(QMainWindow& window) {
     c.lblScroll = Named(new QLabel, QStringLiteral("lblScroll"));
     c.lblScroll->setTextInteractionFlags(Qt::TextSelectableByMouse);
     bottom->addWidget(c.lblScroll, 1);
-    c.lblClrMAME = Named(new QLabel(QStringLiteral("ClrMAME")), QStringLiteral("lblClrMAME"));
-    c.lblClrMAME->hide();
-    bottom->addWidget(c.lblClrMAME);
+    AddCornerControls(c, *bottom);
     // No text: the user finds it by clicking the corner, as the start time has always been.
     c.lblStartTime = Named(new QLabel(QStringLiteral("  ")), QStringLiteral("lblStartTime"));
     c.lblStartTime->setFixedSize(12, 12);
     bottom->addWidget(c.lblStartTime);
     outer->addLayout(bottom);
     window.setCentralWidget(central);
-    BuildFavoritesReports(window, c);
-    BuildListMenu(window, c);
-    BuildReportMenus(window, c);
+    AllowListMenus(c);
     return c;
 }
 

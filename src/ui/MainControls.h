@@ -16,17 +16,21 @@
 #include "software/SoftwarePanel.h"
 
 class QMainWindow;
+class QMenuBar;
 
 namespace coinlight {
 
 class DownloadPage;
 class InfoSourceList;
 class MachineListView;
-class MaintenancePage;
-class SnapshotPane;
-class SettingsPage;
-class VerifyPage;
 class MachineSearchField;
+class MaintenancePage;
+class MenuTree;
+class SettingsPage;
+class SnapshotPane;
+class TitleStrip;
+class VerifyPage;
+class WindowButton;
 
 /// The link-style twins of the command buttons, by their index.
 enum LinkIndex : int {
@@ -55,6 +59,14 @@ enum LinkIndex : int {
 /// control name as objectName (`lblPanel(2)` is `lblPanel_2`), which is how tests and the
 /// theme code find them.
 struct MainControls {
+    // The title strip with the menus' link heads and the window buttons, and the menu bar
+    // under it: the two show one menu tree, by the preference Use Links
+    TitleStrip* picTitle = nullptr;
+    std::array<WindowButton*, 3> imgWindowState{};
+    std::array<LinkLabel*, 5> lblMLinks{};
+    QMenuBar* menuBar = nullptr;
+    MenuTree* menus = nullptr; // every menu and entry, by name
+
     // View menu
     QMenu* mnuView = nullptr;
     QAction* mnuViewAll = nullptr;
@@ -172,9 +184,11 @@ struct MainControls {
     DownloadPage* fraDownload = nullptr; // shown in a development run only
     QLabel* lblVersion = nullptr;
     QLabel* lblScroll = nullptr;
-    QLabel* lblStartTime = nullptr; // an unmarked corner that tells how long the start took
-    QLabel* lblClrMAME = nullptr;   // a developer's label, shown on the maker's machine only
-    QLabel* lblShots = nullptr;     // in picShots
+    QLabel* lblStartTime = nullptr;  // an unmarked corner that tells how long the start took
+    QLabel* lblClrMAME = nullptr;    // a developer's label, shown on the maker's machine only
+    QLabel* lblShots = nullptr;      // in picShots
+    QLabel* lblGradient = nullptr;   // opens the gradient chooser of the heritage themes
+    QPushButton* cmdDebug = nullptr; // the maker's catver.ini tool, shown on his machine only
 };
 
 /// Makes the controls, lays them out in `window` and returns them.

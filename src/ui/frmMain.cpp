@@ -15,6 +15,7 @@
 #include "core/OptionsIni.h"
 #include "frmCover.h"
 #include "frmSplash.h"
+#include "tools/MaintainerPaths.h"
 #include "ui/online/DownloadPage.h"
 #include "ui/reports/MaintenancePage.h"
 #include "ui/reports/VerifyPage.h"
@@ -30,6 +31,8 @@ frmMain::frmMain(AppContext& context, Prompter& prompter, QWidget* parent)
     PanelTooltips();
     m_controls.lblStartTime->installEventFilter(this);
     ConnectControls();
+    SetUpChrome();
+    WireMenu();
 }
 
 frmMain::~frmMain() {
@@ -38,18 +41,6 @@ frmMain::~frmMain() {
 
 void frmMain::ConnectControls() {
     const MainControls& c = m_controls;
-    connect(c.mnuViewAll, &QAction::triggered, this, &frmMain::ViewAllArcade);
-    connect(c.mnuViewAvailable, &QAction::triggered, this, &frmMain::ViewAvailableArcade);
-    connect(c.mnuViewUnavailable, &QAction::triggered, this, &frmMain::ViewUnavailableArcade);
-    connect(c.mnuViewOtherMachines, &QAction::triggered, this, &frmMain::ViewOther);
-    connect(c.mnuViewArcadeFavorites, &QAction::triggered, this, &frmMain::ViewFavoritesArcade);
-    connect(c.mnuViewOtherFavorites, &QAction::triggered, this, &frmMain::ViewFavoritesOther);
-    connect(c.mnuMainOptions, &QAction::triggered, this, [this] {
-        Options();
-        FixAllHidden();
-    });
-    connect(c.mnuMainExit, &QAction::triggered, this, &QWidget::close);
-    connect(c.mnuToolsCheckOptions, &QAction::triggered, this, &frmMain::CheckMameOptions);
     connect(c.cmdExit, &QPushButton::clicked, this, [this] { LinkClicked(LinkExit); });
     connect(c.cmdStart, &QPushButton::clicked, this, [this] { LinkClicked(LinkStart); });
     connect(c.cmdFind, &QPushButton::clicked, this, &frmMain::Find);
@@ -98,8 +89,6 @@ void frmMain::ConnectControls() {
     m_shiftDown.Watch(c.lvAvailable);
     m_shiftDown.Watch(c.lvUnavailable);
     m_closeWatch.Watch(this);
-    connect(c.mnuHelpNews, &QAction::triggered, this, &frmMain::News);
-    connect(c.mnuHelpUpdate, &QAction::triggered, this, &frmMain::Update);
     connect(c.fraDownload, &DownloadPage::DownloadClicked, this, &frmMain::ArtSamDownload);
     ConnectSoftwareControls();
     ConnectFavoritesControls();
@@ -319,6 +308,7 @@ void frmMain::SetLinksOrButtons() {
         button->setVisible(!links);
         c.lblBLinks[static_cast<std::size_t>(link)]->setVisible(links);
     }
+    ShowMenuStyle();
     c.verifyPage->SetUseLinks(links);
     c.maintenancePage->SetUseLinks(links);
 }
@@ -347,10 +337,11 @@ void frmMain::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     // The frame exists only once the window is up.
     QMetaObject::invokeMethod(this, &frmMain::KeepOnScreen, Qt::QueuedConnection);
-    // The maker's own machine shows a tool of his; nobody else's does.
-    const auto computer =
-        ProcessEnvironment()("COMPUTERNAME").value_or(QSysInfo::machineHostName().toStdString());
-    m_controls.lblClrMAME->setVisible(computer == "WORKBENCH7");
+    // The maker's own machine shows his two tools; nobody else's does.
+    const bool maker =
+        IsMaintainerMachine(ProcessEnvironment(), QSysInfo::machineHostName().toStdString());
+    m_controls.lblClrMAME->setVisible(maker);
+    m_controls.cmdDebug->setVisible(maker);
     if (m_activatedOnce) {
         return;
     }

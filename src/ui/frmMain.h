@@ -177,6 +177,21 @@ public:
     void RebuildSettings();
     void RebuildReport();
 
+    // Look and window: the theme, fonts and title gradient; the window's own buttons; the
+    // layout of every page; the menu's own commands and the maker's tools
+    void ApplyTheme();
+    void ApplyFonts();
+    void SetGradient();
+    void SetIconOther();
+    void FormResize();
+    void WindowButtonClicked(int index);
+    void MenuLinkClicked(int index);
+    void About();
+    void OpenAppFolder();
+    void OpenDataFolder();
+    void CreateCatver();
+    void CreateClrMAMEFiles();
+
     /// Where the Options dialog looks for a packaged MAME (tests point it elsewhere).
     void SetMameLocations(MameLocations locations) { m_mameLocations = std::move(locations); }
 
@@ -188,6 +203,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     // The load, step by step
@@ -221,6 +239,19 @@ private:
     void ShowSavedView();
     void FixAllHidden();
     void FatalLoadError(const QString& description, int statement);
+
+    // Look, chrome and menu steps
+    bool ApplyLookAtLoad();
+    void ApplyLookAfterOptions();
+    void SetUpChrome();
+    void ShowGradientChooser();
+    void ShowMenuStyle();
+    void WireMenu();
+    std::function<void()> MenuCommand(std::string_view entry);
+    /// The entries whose command takes the selected row or a fixed argument.
+    std::function<void()> ListCommand(std::string_view entry);
+    void SetMenuState(int linkIndex);
+    void HighlightMenuLink(int index, bool on);
 
     // Lists
     bool LoadListsArcade();
@@ -286,7 +317,6 @@ private:
     bool RunMame(const std::string& commandLine, const std::function<bool()>& whileRunning);
     void ShowHeadings(const ReportHeadings& headings);
     void ShowLink(int index, bool shown);
-    void UpdateReportMenus();
     void PrepareMaintenanceEntries(const MachineListView& list);
     bool CarryOutDeletions(const DeletionPlan& plan, const char* routine, const char* title);
     std::string MaintenanceMachine();
@@ -343,7 +373,6 @@ private:
     void UncoverCommands();
     void LeaveSettings();
     bool SettingsScreenOpen() const;
-    void UpdateSettingsMenu();
     void SetDefaultsOf(DefaultsGroup group);
     void BGFXPath();
     void HLSLPath();
@@ -424,6 +453,7 @@ private:
     bool m_closeAfterVerify = false; // the window was closed meanwhile
     std::filesystem::path m_mameManual = DebianManual();
     std::function<bool(const QString&)> m_openAddress;
+    bool m_layoutsRested = false; // while minimized nothing is laid out
 };
 
 } // namespace coinlight

@@ -41,6 +41,7 @@ bool frmMain::OpenOptions(bool firstRun) {
     if (outcome.lookChanged) {
         SetLinksOrButtons();
         ApplyListsAppearance();
+        ApplyLookAfterOptions();
     }
     if (outcome.softwarePathChanged) {
         KillSoftsOther({}); // availability was measured against the old folders

@@ -34,17 +34,6 @@ void frmMain::ConnectFavoritesControls() {
             m_controls.mnuRClick->popup(list->viewport()->mapToGlobal(at));
         });
     }
-    connect(c.mnuAddFavorite, &QAction::triggered, this, &frmMain::AddFavorite);
-    connect(c.mnuRemoveFavorite, &QAction::triggered, this, &frmMain::RemoveFavorite);
-    connect(c.mnuReportsFavoriteArcadeChanges, &QAction::triggered, this,
-            [this] { FavoriteChanges("arcadefavschanges.txt"); });
-    connect(c.mnuReportsFavoriteOtherChanges, &QAction::triggered, this,
-            [this] { FavoriteChanges("otherfavschanges.txt"); });
-    connect(c.mnuReports, &QMenu::aboutToShow, this, [this] {
-        const bool onList = m_controls.pages->currentWidget() == m_controls.fraList;
-        m_controls.mnuReportsFavoriteArcadeChanges->setEnabled(onList && !m_inOtherView);
-        m_controls.mnuReportsFavoriteOtherChanges->setEnabled(onList && m_inOtherView);
-    });
 }
 
 void frmMain::PrepareListMenu(MachineListView& list) {

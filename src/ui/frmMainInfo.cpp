@@ -71,27 +71,9 @@ void frmMain::ConnectInformation() {
         return QDesktopServices::openUrl(QUrl(address));
     };
     connect(c.cmdInfo, &QPushButton::clicked, this, &frmMain::Info);
-    connect(c.mnuMainInfo, &QAction::triggered, this, &frmMain::Info);
     connect(c.lstInfo, &InfoSourceList::SourceClicked, this, &frmMain::InfoSourceClicked);
     // The menu's tick is the pane's state: it is set from options.ini at start, too.
     connect(c.mnuViewShots, &QAction::toggled, this, &frmMain::ShowShotsPane);
-    const std::pair<QAction*, void (frmMain::*)()> documents[] = {
-        {c.mnuHelpHeritage, &frmMain::Heritage},
-        {c.mnuHelpCommandLines, &frmMain::MAMECommandLines},
-        {c.mnuHelpDefaultKeys, &frmMain::MAMEDefaultKeys},
-        {c.mnuHelpBGFX, &frmMain::MAMEBGFX},
-        {c.mnuHelpHLSL, &frmMain::MAMEHLSL},
-        {c.mnuHelpGLSL, &frmMain::MAMEGLSL},
-        {c.mnuReportsUnlistedMachines, &frmMain::Unlisted}};
-    for (const auto& [entry, command] : documents) {
-        connect(entry, &QAction::triggered, this, command);
-    }
-    if (auto* reports = qobject_cast<QMenu*>(c.mnuReportsUnlistedMachines->parent())) {
-        connect(reports, &QMenu::aboutToShow, this, [this] {
-            m_controls.mnuReportsUnlistedMachines->setEnabled(
-                FileExists(m_context.data.Output() / "unlisted.txt"));
-        });
-    }
 }
 
 // ---- The information panel ----

@@ -109,6 +109,11 @@ bool frmMain::FormLoad() {
     }
     SetLinksOrButtons();
     FixAllHidden();
+    if (!ApplyLookAtLoad()) {
+        flags.formLoading = false;
+        UnloadAllForms();
+        return false;
+    }
     ShowCover();
     flags.formLoading = false;
     return true;

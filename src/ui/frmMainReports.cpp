@@ -74,33 +74,6 @@ private:
 void frmMain::ConnectReportControls() {
     const MainControls& c = m_controls;
     connect(c.cmdAudit, &QPushButton::clicked, this, &frmMain::Audit);
-    connect(c.mnuMainAudit, &QAction::triggered, this, &frmMain::Audit);
-    connect(c.mnuMainExport, &QAction::triggered, this, &frmMain::Export);
-    connect(c.mnuToolsMaintenance, &QAction::triggered, this, &frmMain::Maintenance);
-    connect(c.mnuReportsVerifyROMs, &QAction::triggered, this, &frmMain::VerifyROMs);
-    connect(c.mnuReportsLastROM, &QAction::triggered, this, &frmMain::LastROM);
-    connect(c.mnuReportsVerifySamples, &QAction::triggered, this, &frmMain::VerifySamples);
-    connect(c.mnuReportsLastSample, &QAction::triggered, this, &frmMain::LastSample);
-    connect(c.mnuReportsVerifyAllSoftware, &QAction::triggered, this,
-            [this] { VerifySoftware({}); });
-    connect(c.mnuReportsLastAllSoftware, &QAction::triggered, this, [this] { LastSoftware({}); });
-    const auto selectedLists = [this] {
-        const MachineRow* row = m_controls.lvOther->SelectedMachine();
-        return row != nullptr ? std::string(row->Field(ColSoftwareLists)) : std::string();
-    };
-    connect(c.mnuReportsVerifyMachinesSoftware, &QAction::triggered, this,
-            [this, selectedLists] { VerifySoftware(selectedLists()); });
-    connect(c.mnuReportsLastMachinesSoftware, &QAction::triggered, this,
-            [this, selectedLists] { LastSoftware(selectedLists()); });
-    connect(c.mnuReportsWhatROMsChanged, &QAction::triggered, this, &frmMain::CompareCRCInfos);
-    connect(c.mnuReportsWhatROMsChangedReport, &QAction::triggered, this,
-            &frmMain::WhatROMsChangedReport);
-    connect(c.mnuReportsFind, &QAction::triggered, this, &frmMain::Find);
-    connect(c.mnuDeleteROM, &QAction::triggered, this, &frmMain::DeleteROM);
-    connect(c.mnuDeleteSamples, &QAction::triggered, this, &frmMain::DeleteSamples);
-    for (QMenu* menu : {c.mnuMain, c.mnuTools, c.mnuReports}) {
-        connect(menu, &QMenu::aboutToShow, this, &frmMain::UpdateReportMenus);
-    }
     connect(c.verifyPage, &VerifyPage::CancelRequested, this, &frmMain::CancelVerify);
     MaintenancePage* maintenance = c.maintenancePage;
     connect(maintenance, &MaintenancePage::SearchRequested, this, &frmMain::UnneededFileSearch);
@@ -109,27 +82,6 @@ void frmMain::ConnectReportControls() {
     connect(maintenance, &MaintenancePage::CleanOutputRequested, this,
             &frmMain::CleanOutputDirectories);
     connect(maintenance, &MaintenancePage::ReturnRequested, this, &frmMain::ReturnList2);
-}
-
-void frmMain::UpdateReportMenus() {
-    const MainControls& c = m_controls;
-    const bool onList = c.pages->currentWidget() == c.fraList;
-    MachineListView* list = ListOfView();
-    const bool hasRows = list->Model().rowCount() != 0;
-    c.mnuMainAudit->setEnabled(onList && hasRows && c.cmdAudit->isEnabled());
-    c.mnuMainExport->setEnabled(onList);
-    c.mnuToolsMaintenance->setEnabled(onList);
-    for (QAction* entry :
-         {c.mnuReportsROMs->menuAction(), c.mnuReportsVerifyROMs, c.mnuReportsLastROM,
-          c.mnuReportsWhatsChanged->menuAction(), c.mnuReportsWhatROMsChanged,
-          c.mnuReportsWhatROMsChangedReport, c.mnuReportsRebuild, c.mnuReportsFind}) {
-        entry->setEnabled(onList);
-    }
-    c.mnuReportsSamples->menuAction()->setEnabled(onList && !m_inOtherView);
-    const bool softwareShown = m_inOtherView && c.lvSoftware->Model().rowCount() != 0;
-    c.mnuReportsSoftware->menuAction()->setEnabled(onList && softwareShown);
-    c.mnuReportsVerifyMachinesSoftware->setEnabled(onList && softwareShown);
-    c.mnuReportsLastMachinesSoftware->setEnabled(onList && m_inOtherView);
 }
 
 void frmMain::PrepareMaintenanceEntries(const MachineListView& list) {

@@ -64,31 +64,10 @@ void frmMain::ConnectSettingsControls() {
         connect(page.CommandLink(command), &QLabel::linkActivated, this,
                 [this, index] { GLSLShader(index); });
     }
-    connect(c.mnuToolsArcade, &QAction::triggered, this, &frmMain::SettingsArcade);
-    connect(c.mnuToolsOther, &QAction::triggered, this, &frmMain::SettingsOther);
-    connect(c.mnuToolsCustom, &QAction::triggered, this, &frmMain::CustomSettings);
-    connect(c.mnuToolsRebuild, &QAction::triggered, this, &frmMain::RebuildSettings);
-    connect(c.mnuReportsRebuild, &QAction::triggered, this, &frmMain::RebuildReport);
-    connect(c.mnuTools, &QMenu::aboutToShow, this, &frmMain::UpdateSettingsMenu);
 }
 
 bool frmMain::SettingsScreenOpen() const {
     return m_controls.pages->currentWidget() == m_controls.fraDefaults;
-}
-
-void frmMain::UpdateSettingsMenu() {
-    const MainControls& c = m_controls;
-    // With a page over the lists the settings commands wait until the user is back.
-    const bool listsShown = c.pages->currentWidget() == c.fraList;
-    const bool unavailableView =
-        m_context.preferences.view.listView == "Unavailable Arcade Machines";
-    c.mnuToolsArcade->setEnabled(listsShown && !m_inOtherView);
-    c.mnuToolsOther->setEnabled(listsShown && m_inOtherView);
-    c.mnuToolsCustom->setEnabled(listsShown && !unavailableView &&
-                                 c.lblPanel[6]->text() != QStringLiteral("Unavailable") &&
-                                 ListOfView()->SelectedMachine() != nullptr);
-    c.mnuToolsRebuild->setEnabled(listsShown);
-    c.mnuReportsRebuild->setEnabled(listsShown);
 }
 
 void frmMain::DefineCombos() {

@@ -29,11 +29,6 @@ void frmMain::ConnectSoftwareControls() {
     connect(c.lvSoftware, &SoftwareListView::ColumnClicked, this, &frmMain::SoftwareColumnClicked);
     connect(c.lvSoftware, &SoftwareListView::RowSelected, this, &frmMain::SoftwareItemClick);
     connect(c.lvSoftware, &SoftwareListView::RowActivated, this, &frmMain::SoftwareDoubleClick);
-    connect(c.mnuRefreshSoftware, &QAction::triggered, this, [this] {
-        if (const MachineRow* row = m_controls.lvOther->SelectedMachine()) {
-            KillSoftsOther(std::string(row->ShortName()));
-        }
-    });
 }
 
 void frmMain::OtherItemClick() {

@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "LookControls.h"
 #include "PathRules.h"
 #include "PreferenceChoices.h"
 #include "PreferencePresets.h"
@@ -52,6 +53,8 @@ void PreferencesPage::BuildForm() {
         BuildFilterList(m_bios, "BIOS &Filter", "lstBIOS", "lblBIOSWarning", "cmdSelectAllBIOS"));
     lists->addWidget(BuildFilterList(m_category, "Ca&tegory Filter", "lstCategory",
                                      "lblCategoryWarning", "cmdSelectAllCategory"));
+    m_look = new LookControls(m_prompter, this);
+    lists->addWidget(m_look);
     auto* choices = new QHBoxLayout;
     choices->addWidget(BuildHideSwitches());
     choices->addWidget(BuildPreferences());
@@ -139,16 +142,8 @@ QWidget* PreferencesPage::BuildPreferences() {
         "Coinlight Will Assume All Clones Are Installed If The Parent ROM Is Installed"));
     m_chkKillCFG = AddCheck(box, "chkKillCFG", "Delete Machine's .Cfg After Run");
     m_chkUseLinks = AddCheck(box, "chkUseLinks", "Link Style UI");
-    auto* themeLabel = AddLabel(box, "lblTheme", QStringLiteral("T&heme:"));
-    m_cboTheme = new QComboBox(box);
-    m_cboTheme->setObjectName(QStringLiteral("cboTheme"));
-    for (const std::string_view theme : kThemeNames) {
-        m_cboTheme->addItem(ToQString(theme));
-    }
-    themeLabel->setBuddy(m_cboTheme);
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{m_chkCloneShots, m_chkMergedROMs, m_chkKillCFG,
-                                         m_chkUseLinks, themeLabel, m_cboTheme}) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_chkCloneShots, m_chkMergedROMs,
+                                                           m_chkKillCFG, m_chkUseLinks}) {
         layout->addWidget(widget);
     }
     layout->addStretch(1);
@@ -291,7 +286,7 @@ void PreferencesPage::ShowOther(const OtherPreferences& other) {
         level->setChecked(true);
     }
     ShowSettingsLevelText();
-    SelectTheme(other.theme);
+    m_look->Show(other);
     HideYearRule();
     ClonesRule();
 }
@@ -309,7 +304,7 @@ OtherPreferences PreferencesPage::CurrentOther() const {
     other.year = m_cboHideYear->currentText().toStdString();
     other.cloneShots = m_chkCloneShots->isChecked();
     other.settingsLevel = std::max(0, m_optSettingsLevel->checkedId());
-    other.theme = m_cboTheme->currentText().toStdString();
+    m_look->Read(other);
     other.mergedRomSets = m_chkMergedROMs->isChecked();
     other.deleteCfg = m_chkKillCFG->isChecked();
     other.useLinks = m_chkUseLinks->isChecked();
@@ -326,18 +321,6 @@ void PreferencesPage::SelectYear(const std::string& year) {
         m_cboHideYear->addItem(text);
     }
     m_cboHideYear->setCurrentIndex(m_cboHideYear->findText(text));
-}
-
-void PreferencesPage::SelectTheme(const std::string& theme) {
-    const int index = m_cboTheme->findText(QString::fromStdString(theme));
-    if (index < 0) {
-        // A theme no longer offered: the first one stands, so that nothing unknown is saved.
-        m_prompter.Message(QString::fromLatin1(kCoinlightTitle),
-                           QString::fromLatin1(kDepreciatedComboValue));
-        m_cboTheme->setCurrentIndex(0);
-        return;
-    }
-    m_cboTheme->setCurrentIndex(index);
 }
 
 void PreferencesPage::ClonesRule() {
@@ -377,6 +360,7 @@ void PreferencesPage::cmdReset_Click() {
     OtherPreferences other = CurrentOther();
     ResetOtherPreferences(other);
     ShowOther(other);
+    m_look->Reset();
 }
 
 void PreferencesPage::cmdMyDefaults_Click() {
@@ -393,6 +377,7 @@ void PreferencesPage::cmdMyDefaults_Click() {
     OtherPreferences other = CurrentOther();
     ApplyMyDefaults(other, m_ideMode);
     ShowOther(other);
+    m_look->MyDefaults();
 }
 
 } // namespace coinlight

@@ -18,6 +18,7 @@
 
 namespace coinlight {
 
+class LookControls;
 class Prompter;
 
 /// The filters and preferences page of the Options dialog: what the lists hide and how the
@@ -67,7 +68,6 @@ private:
     void ShowOther(const OtherPreferences& other);
     OtherPreferences CurrentOther() const;
     void SelectYear(const std::string& year);
-    void SelectTheme(const std::string& theme);
     void ClonesRule();
     void HideYearRule();
     void ShowSettingsLevelText();
@@ -90,7 +90,7 @@ private:
     QCheckBox* m_chkMergedROMs = nullptr;
     QCheckBox* m_chkKillCFG = nullptr;
     QCheckBox* m_chkUseLinks = nullptr;
-    QComboBox* m_cboTheme = nullptr;
+    LookControls* m_look = nullptr;
     QButtonGroup* m_optSettingsLevel = nullptr;
     QLabel* m_lblSettingsLevel = nullptr;
 };
