@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::string_view kFilterItems[] = {R"(<item name="Rebuilder/filter" active="1">)",
                                              R"(<item name="Scanner/filter" active="1">)"};
+constexpr std::string_view kItemStart = "<item";
 constexpr std::string_view kItemEnd = "</item>";
 constexpr std::string_view kMark = "<!--Coinlight-->";
 // These four name samples of a set that holds none of its own.
@@ -115,6 +116,10 @@ std::string ReplaceFilterItems(std::string_view settingsXml, std::string_view fi
         std::size_t last = index;
         while (last < lines.size() && lines[last].find(kItemEnd) == std::string_view::npos) {
             ++last;
+            // An item that never closes must not take the next item's close for its own.
+            if (last < lines.size() && lines[last].find(kItemStart) != std::string_view::npos) {
+                last = lines.size();
+            }
         }
         std::string_view tail;
         if (last < lines.size()) {
