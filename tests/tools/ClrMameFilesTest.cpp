@@ -232,14 +232,14 @@ TEST_F(CreateClrMameFiles, NoMachineListIsAFailureThatKeepsTheSettings) {
 
 TEST_F(CreateClrMameFiles, DamagedInputsNeverLeaveAHalfWrittenSettingsFile) {
     const std::string inputs[] = {
-        std::string("\0\xff\xfe\x01\"a\",\"", 10),
+        std::string("\0\xff\xfe\x01\"a\",\"", 9),
         Favourite("ok", "x'; rm -rf /;'") + "\"cut\",\"",
         std::string(50000, '"'),
     };
     for (const std::string& favourites : inputs) {
         SetUp();
         WriteFile(data / "output" / "otherfavs.txt", favourites);
-        WriteFile(data / "output" / "machine.xml", std::string("\0<machine\xff", 12));
+        WriteFile(data / "output" / "machine.xml", std::string("\0<machine\xff", 10));
         const std::string old = ReadFile(tool / "settings.xml");
         const ClrMameOutcome outcome = Create();
         ASSERT_FALSE(outcome.messages.empty() && !outcome.settingsReplaced);
