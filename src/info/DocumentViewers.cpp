@@ -10,29 +10,29 @@ namespace {
 constexpr std::string_view kRstSecondLine =
     "This file comes with MAME and should be in a sub-folder in the docs directory.";
 
-DocumentSpec RstDocument(const DocumentFolders& folders, const char* routine, const char* caption,
-                         std::vector<std::string> sections) {
-    DocumentSpec spec;
-    spec.routine = routine;
-    spec.caption = caption;
+DocumentToShow RstDocument(const DocumentFolders& folders, const char* routine, const char* caption,
+                           std::vector<std::string> sections) {
+    DocumentToShow document;
+    document.routine = routine;
+    document.caption = caption;
     for (const auto& section : sections) {
-        spec.files.push_back(folders.mameFolder / "docs" / "source" / (section + ".rst"));
+        document.files.push_back(folders.mameFolder / "docs" / "source" / (section + ".rst"));
     }
-    spec.missingText = "Cannot find " + spec.files.front().filename().string() + ".\n" +
-                       std::string(kRstSecondLine);
-    spec.markup = true;
-    spec.manualSection = sections.front();
-    return spec;
+    document.missingText = "Cannot find " + document.files.front().filename().string() + ".\n" +
+                           std::string(kRstSecondLine);
+    document.markup = true;
+    document.manualSection = sections.front();
+    return document;
 }
 
-DocumentSpec PlainDocument(const char* routine, const char* caption,
-                           const std::filesystem::path& file) {
-    DocumentSpec spec;
-    spec.routine = routine;
-    spec.caption = caption;
-    spec.files = {file};
-    spec.missingText = "Cannot find " + file.filename().string() + "!";
-    return spec;
+DocumentToShow PlainDocument(const char* routine, const char* caption,
+                             const std::filesystem::path& file) {
+    DocumentToShow document;
+    document.routine = routine;
+    document.caption = caption;
+    document.files = {file};
+    document.missingText = "Cannot find " + file.filename().string() + "!";
+    return document;
 }
 
 std::string FileAddress(const std::filesystem::path& file) {
@@ -60,7 +60,7 @@ std::optional<std::string> AnchorEndingIn(std::string_view html, std::string_vie
 
 } // namespace
 
-DocumentSpec DocumentOf(DocumentViewer viewer, const DocumentFolders& folders) {
+DocumentToShow DocumentOf(DocumentViewer viewer, const DocumentFolders& folders) {
     switch (viewer) {
     case DocumentViewer::MAMECommandLines:
         return RstDocument(folders, "MAMECommandLines", "MAME Command-Line Options",
@@ -116,33 +116,33 @@ std::string ManualAddress(const std::filesystem::path& manual, std::string_view 
     return address;
 }
 
-DocumentOpening OpenDocument(const DocumentSpec& spec, const std::filesystem::path& manual) {
+DocumentOpening OpenDocument(const DocumentToShow& document, const std::filesystem::path& manual) {
     DocumentOpening opening;
-    for (const auto& file : spec.files) {
+    for (const auto& file : document.files) {
         if (!FileMissing(file)) {
             continue;
         }
-        if (spec.markup && FileExists(manual)) {
+        if (document.markup && FileExists(manual)) {
             opening.kind = DocumentOpening::Kind::OpenManual;
-            opening.manualAddress = ManualAddress(manual, spec.manualSection);
+            opening.manualAddress = ManualAddress(manual, document.manualSection);
             return opening;
         }
         opening.kind = DocumentOpening::Kind::Tell;
-        opening.message.title = spec.caption;
-        opening.message.text = spec.missingText;
+        opening.message.title = document.caption;
+        opening.message.text = document.missingText;
         return opening;
     }
-    for (const auto& file : spec.files) {
+    for (const auto& file : document.files) {
         const auto bytes = ReadFileBytes(file);
         if (!bytes) {
             opening.kind = DocumentOpening::Kind::Tell;
             opening.message =
-                RoutineError("Error In " + spec.routine, "Cannot read " + file.string(), 5);
+                RoutineError("Error In " + document.routine, "Cannot read " + file.string(), 5);
             return opening;
         }
         opening.text += *bytes;
     }
-    if (spec.markup) {
+    if (document.markup) {
         opening.text = WithoutMarkup(opening.text);
     }
     return opening;

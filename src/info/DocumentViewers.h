@@ -30,7 +30,7 @@ struct DocumentFolders {
 
 /// One viewer: its caption, the files it joins, what it says when one is missing, and
 /// whether the text is reStructuredText (whose `*` and `\` are markup).
-struct DocumentSpec {
+struct DocumentToShow {
     std::string routine; // the command's name, for its error box
     std::string caption;
     std::vector<std::filesystem::path> files;
@@ -38,7 +38,7 @@ struct DocumentSpec {
     bool markup = false;
     std::string manualSection; // the section of the installed manual, for MAME's documents
 };
-DocumentSpec DocumentOf(DocumentViewer viewer, const DocumentFolders& folders);
+DocumentToShow DocumentOf(DocumentViewer viewer, const DocumentFolders& folders);
 
 /// Where the installed copy of MAME's manual lies on Debian (package mame-doc).
 std::filesystem::path DebianManual();
@@ -51,7 +51,7 @@ struct DocumentOpening {
     std::string manualAddress; // OpenManual: a file address with the section as fragment
     UserMessage message;       // Tell
 };
-DocumentOpening OpenDocument(const DocumentSpec& spec, const std::filesystem::path& manual);
+DocumentOpening OpenDocument(const DocumentToShow& document, const std::filesystem::path& manual);
 
 /// The text with every `*` and `\` removed, unconditionally.
 std::string WithoutMarkup(std::string_view text);

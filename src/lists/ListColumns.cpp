@@ -4,7 +4,7 @@ namespace coinlight {
 
 namespace {
 
-constexpr ColumnSpec kRecordColumns[kRecordFieldCount] = {
+constexpr ColumnLayout kRecordColumns[kRecordFieldCount] = {
     {"Machine", 7860},        {"Year", 1000},
     {"Driver", 1290},         {"Palette", 1290},
     {"Sound", 1290},          {"Graphics", 1290},
@@ -18,13 +18,13 @@ constexpr ColumnSpec kRecordColumns[kRecordFieldCount] = {
     {"CHD Required", 1550},   {"Category", 4065},
 };
 
-constexpr ColumnSpec kPlayers = {"Players", 1680};
-constexpr ColumnSpec kSpacer = {"", 25};
+constexpr ColumnLayout kPlayers = {"Players", 1680};
+constexpr ColumnLayout kSpacer = {"", 25};
 
 } // namespace
 
-std::vector<ColumnSpec> ArcadeListColumns(bool hasNPlayers) {
-    std::vector<ColumnSpec> columns(std::begin(kRecordColumns), std::end(kRecordColumns));
+std::vector<ColumnLayout> ArcadeListColumns(bool hasNPlayers) {
+    std::vector<ColumnLayout> columns(std::begin(kRecordColumns), std::end(kRecordColumns));
     if (hasNPlayers) {
         columns.push_back(kPlayers);
     }
@@ -32,14 +32,14 @@ std::vector<ColumnSpec> ArcadeListColumns(bool hasNPlayers) {
     return columns;
 }
 
-std::vector<ColumnSpec> OtherListColumns() {
-    std::vector<ColumnSpec> columns(std::begin(kRecordColumns), std::end(kRecordColumns));
+std::vector<ColumnLayout> OtherListColumns() {
+    std::vector<ColumnLayout> columns(std::begin(kRecordColumns), std::end(kRecordColumns));
     columns[ColBriefNames].twips = 3000;
     columns.push_back(kSpacer);
     return columns;
 }
 
-std::vector<ColumnSpec> SoftwareListColumns() {
+std::vector<ColumnLayout> SoftwareListColumns() {
     return {{"Software", 6000},    {"Year", 1000},
             {"Supported", 1300},   {"Publisher", 3500},
             {"Device(s)", 2000},   {"Software", 1800},

@@ -35,18 +35,18 @@ enum Column : int {
     kRecordFieldCount = ColPlayers,
 };
 
-struct ColumnSpec {
+struct ColumnLayout {
     std::string_view header;
     int twips; // the width as designed; 15 twips make a pixel
 };
 
 /// The columns of the arcade lists, Players included only when nplayers.ini exists, and the
 /// empty spacer that closes every list.
-std::vector<ColumnSpec> ArcadeListColumns(bool hasNPlayers);
+std::vector<ColumnLayout> ArcadeListColumns(bool hasNPlayers);
 /// The other-machine list: the same record columns, a wider Brief Name(s), no Players.
-std::vector<ColumnSpec> OtherListColumns();
+std::vector<ColumnLayout> OtherListColumns();
 /// The software of the selected other machine: the fields of its software file.
-std::vector<ColumnSpec> SoftwareListColumns();
+std::vector<ColumnLayout> SoftwareListColumns();
 
 inline constexpr int kTwipsPerPixel = 15;
 

@@ -9,7 +9,7 @@ namespace coinlight {
 MachineListModel::MachineListModel(bool marksUnavailable, QObject* parent)
     : QAbstractTableModel(parent), m_marksUnavailable(marksUnavailable) {}
 
-void MachineListModel::SetColumns(std::vector<ColumnSpec> columns) {
+void MachineListModel::SetColumns(std::vector<ColumnLayout> columns) {
     beginResetModel();
     m_columns = std::move(columns);
     endResetModel();

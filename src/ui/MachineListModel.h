@@ -24,8 +24,8 @@ public:
     /// `marksUnavailable`: rows whose files are missing are drawn in red (the other list).
     explicit MachineListModel(bool marksUnavailable, QObject* parent = nullptr);
 
-    void SetColumns(std::vector<ColumnSpec> columns);
-    const std::vector<ColumnSpec>& Columns() const { return m_columns; }
+    void SetColumns(std::vector<ColumnLayout> columns);
+    const std::vector<ColumnLayout>& Columns() const { return m_columns; }
 
     /// Shows `order` (indices into `rows`): in that order until the list is first sorted,
     /// then sorted as the list last was.
@@ -74,7 +74,7 @@ private:
     void NarrowOrder();
 
     bool m_marksUnavailable;
-    std::vector<ColumnSpec> m_columns;
+    std::vector<ColumnLayout> m_columns;
     std::shared_ptr<const MachineRows> m_rows;
     std::vector<std::uint32_t> m_order;
     SearchQuery m_query;

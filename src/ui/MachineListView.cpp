@@ -36,7 +36,7 @@ MachineListView::MachineListView(const char* name, bool marksUnavailable, QWidge
     });
 }
 
-void MachineListView::SetColumns(std::vector<ColumnSpec> columns, const std::set<int>& hidden) {
+void MachineListView::SetColumns(std::vector<ColumnLayout> columns, const std::set<int>& hidden) {
     std::vector<int> widths;
     for (const auto& column : columns) {
         widths.push_back(column.twips / kTwipsPerPixel);

@@ -21,7 +21,7 @@ public:
     const MachineListModel& Model() const { return m_model; }
 
     /// Sets the columns with their designed widths; `hidden` columns get no width at all.
-    void SetColumns(std::vector<ColumnSpec> columns, const std::set<int>& hidden);
+    void SetColumns(std::vector<ColumnLayout> columns, const std::set<int>& hidden);
     bool IsColumnHidden(int column) const;
 
     /// The arrow on one column only, pointing by `order` (0 up, 1 down).

@@ -279,20 +279,20 @@ void frmMain::Unlisted() {
 void frmMain::ShowDocument(DocumentViewer viewer) {
     const DocumentFolders folders{m_context.preferences.searchPaths.mame, m_context.appFolder,
                                   m_context.data};
-    const DocumentSpec spec = DocumentOf(viewer, folders);
-    const DocumentOpening opening = OpenDocument(spec, m_mameManual);
+    const DocumentToShow document = DocumentOf(viewer, folders);
+    const DocumentOpening opening = OpenDocument(document, m_mameManual);
     switch (opening.kind) {
     case DocumentOpening::Kind::Tell:
         ShowMessage(m_prompter, opening.message);
         return;
     case DocumentOpening::Kind::OpenManual:
         if (!m_openAddress(QString::fromStdString(opening.manualAddress))) {
-            m_prompter.Message(QString::fromStdString(spec.caption),
+            m_prompter.Message(QString::fromStdString(document.caption),
                                QStringLiteral("Error launching browser."));
         }
         return;
     case DocumentOpening::Kind::Show:
-        ShowTextPage(QString::fromStdString(spec.caption), opening.text);
+        ShowTextPage(QString::fromStdString(document.caption), opening.text);
         return;
     }
 }

@@ -6,7 +6,7 @@ namespace coinlight {
 
 namespace {
 
-constexpr std::array<MenuSpec, 6> kMenus = {{
+constexpr std::array<MenuDefinition, 6> kMenus = {{
     {"mnuMain", "&Main", 0},
     {"mnuView", "&View", 1},
     {"mnuTools", "&Tools", 2},
@@ -15,20 +15,20 @@ constexpr std::array<MenuSpec, 6> kMenus = {{
     {"mnuRClick", "RClick", -1},
 }};
 
-constexpr MenuEntrySpec Entry(std::string_view menu, std::string_view name,
-                              std::string_view caption) {
+constexpr MenuEntryDefinition Entry(std::string_view menu, std::string_view name,
+                                    std::string_view caption) {
     return {menu, name, caption};
 }
-constexpr MenuEntrySpec Checked(std::string_view menu, std::string_view name,
-                                std::string_view caption, bool separatorBefore = false) {
+constexpr MenuEntryDefinition Checked(std::string_view menu, std::string_view name,
+                                      std::string_view caption, bool separatorBefore = false) {
     return {menu, name, caption, true, separatorBefore};
 }
-constexpr MenuEntrySpec After(MenuEntrySpec entry) {
+constexpr MenuEntryDefinition After(MenuEntryDefinition entry) {
     entry.separatorBefore = true;
     return entry;
 }
-constexpr MenuEntrySpec Under(std::string_view subMenu, std::string_view group,
-                              std::string_view name, std::string_view caption) {
+constexpr MenuEntryDefinition Under(std::string_view subMenu, std::string_view group,
+                                    std::string_view name, std::string_view caption) {
     return {"mnuReports", name, caption, false, false, group, subMenu};
 }
 
@@ -101,11 +101,11 @@ constexpr std::array kEntries = {
 
 } // namespace
 
-std::span<const MenuSpec> Menus() {
+std::span<const MenuDefinition> Menus() {
     return kMenus;
 }
 
-std::span<const MenuEntrySpec> MenuEntries() {
+std::span<const MenuEntryDefinition> MenuEntries() {
     return kEntries;
 }
 

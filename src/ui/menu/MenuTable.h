@@ -7,7 +7,7 @@ namespace coinlight {
 
 /// One menu of the tree: its name, caption and the index of the link that opens it in the
 /// link style (-1 for the lists' context menu, which no link opens).
-struct MenuSpec {
+struct MenuDefinition {
     std::string_view name;
     std::string_view caption;
     int linkIndex;
@@ -15,7 +15,7 @@ struct MenuSpec {
 
 /// One entry of a menu, in the order shown. An entry under a `group` stands in a sub-menu of
 /// that caption, named `subMenu`.
-struct MenuEntrySpec {
+struct MenuEntryDefinition {
     std::string_view menu;
     std::string_view name;
     std::string_view caption;
@@ -26,7 +26,7 @@ struct MenuEntrySpec {
 };
 
 /// The program's one menu tree. Both the menu bar and the link style show it.
-std::span<const MenuSpec> Menus();
-std::span<const MenuEntrySpec> MenuEntries();
+std::span<const MenuDefinition> Menus();
+std::span<const MenuEntryDefinition> MenuEntries();
 
 } // namespace coinlight

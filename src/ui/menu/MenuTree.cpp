@@ -17,18 +17,18 @@ QString Text(std::string_view text) {
 } // namespace
 
 MenuTree::MenuTree(QWidget& owner, QMenuBar& bar) : QObject(&owner) {
-    for (const MenuSpec& spec : Menus()) {
-        auto* menu = new QMenu(Text(spec.caption), &owner);
-        menu->setObjectName(Text(spec.name));
-        m_menus.emplace(std::string(spec.name), menu);
-        if (spec.linkIndex >= 0) {
+    for (const MenuDefinition& definition : Menus()) {
+        auto* menu = new QMenu(Text(definition.caption), &owner);
+        menu->setObjectName(Text(definition.name));
+        m_menus.emplace(std::string(definition.name), menu);
+        if (definition.linkIndex >= 0) {
             bar.addMenu(menu);
             m_barMenus.push_back(menu);
             connect(menu, &QMenu::aboutToShow, this,
-                    [this, index = spec.linkIndex] { emit AboutToShow(index); });
+                    [this, index = definition.linkIndex] { emit AboutToShow(index); });
         }
     }
-    for (const MenuEntrySpec& entry : MenuEntries()) {
+    for (const MenuEntryDefinition& entry : MenuEntries()) {
         QMenu* menu = m_menus.at(std::string(entry.menu));
         if (!entry.subMenu.empty()) {
             auto found = m_menus.find(entry.subMenu);

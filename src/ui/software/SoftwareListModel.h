@@ -41,7 +41,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::vector<ColumnSpec> m_columns;
+    std::vector<ColumnLayout> m_columns;
     std::shared_ptr<const SoftwareRows> m_rows;
     std::vector<std::uint32_t> m_order;
     int m_sortKey = 0;

@@ -55,13 +55,13 @@ TEST(MenuRulesTable, EveryNamedEntryBelongsToTheMenuOfItsLink) {
     // A misspelt name would leave the real entry enabled whatever the facts say.
     std::map<std::string, std::string> menuOfEntry;
     std::map<std::string, std::string> menuOfSubMenu;
-    for (const MenuEntrySpec& entry : MenuEntries()) {
+    for (const MenuEntryDefinition& entry : MenuEntries()) {
         menuOfEntry[std::string(entry.name)] = entry.menu;
         if (!entry.subMenu.empty()) {
             menuOfSubMenu[std::string(entry.subMenu)] = entry.menu;
         }
     }
-    for (const MenuSpec& menu : Menus()) {
+    for (const MenuDefinition& menu : Menus()) {
         if (menu.linkIndex < 0) {
             continue;
         }

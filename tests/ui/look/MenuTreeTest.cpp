@@ -18,12 +18,12 @@ namespace {
 
 TEST(MenuTable, NamesAreUniqueAndEveryEntrysMenuExists) {
     std::set<std::string_view> menus;
-    for (const MenuSpec& menu : Menus()) {
+    for (const MenuDefinition& menu : Menus()) {
         EXPECT_TRUE(menus.insert(menu.name).second) << menu.name;
     }
     std::set<std::string_view> entries;
     std::map<std::string_view, std::string_view> subMenuOwner;
-    for (const MenuEntrySpec& entry : MenuEntries()) {
+    for (const MenuEntryDefinition& entry : MenuEntries()) {
         EXPECT_TRUE(entries.insert(entry.name).second) << entry.name << " is not unique";
         EXPECT_TRUE(menus.contains(entry.menu)) << entry.name << " is in " << entry.menu;
         EXPECT_FALSE(entry.caption.empty()) << entry.name;
@@ -43,7 +43,7 @@ TEST(MenuTable, NamesAreUniqueAndEveryEntrysMenuExists) {
 
 TEST(MenuTable, BarLinksAreZeroToFourInOrder) {
     std::vector<int> links;
-    for (const MenuSpec& menu : Menus()) {
+    for (const MenuDefinition& menu : Menus()) {
         if (menu.linkIndex >= 0) {
             links.push_back(menu.linkIndex);
         }
@@ -68,7 +68,7 @@ TEST_F(MenuTreeTest, EveryEntryStandsInItsMenu) {
     ASSERT_NE(tree.Menu("mnuRClick"), nullptr);
     EXPECT_FALSE(bar->actions().contains(tree.Menu("mnuRClick")->menuAction()));
 
-    for (const MenuEntrySpec& entry : MenuEntries()) {
+    for (const MenuEntryDefinition& entry : MenuEntries()) {
         QAction* action = tree.Action(entry.name);
         ASSERT_NE(action, nullptr) << entry.name;
         EXPECT_EQ(action->isCheckable(), entry.checkable) << entry.name;
