@@ -4,24 +4,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "RowListLook.h"
+
 namespace coinlight {
 
 MachineListView::MachineListView(const char* name, bool marksUnavailable, QWidget* parent)
     : QTreeView(parent), m_model(marksUnavailable) {
     setObjectName(QString::fromLatin1(name));
     setModel(&m_model);
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setItemsExpandable(false);
-    setAllColumnsShowFocus(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSortingEnabled(false);
-    header()->setSectionsClickable(true);
-    header()->setSortIndicatorShown(true);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(QHeaderView::Interactive);
+    ShowAsRowList(*this);
     connect(header(), &QHeaderView::sectionClicked, this, &MachineListView::ColumnClicked);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {

@@ -3,23 +3,14 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "ui/RowListLook.h"
+
 namespace coinlight {
 
 SoftwareListView::SoftwareListView(QWidget* parent) : QTreeView(parent) {
     setObjectName(QStringLiteral("lvSoftware"));
     setModel(&m_model);
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setItemsExpandable(false);
-    setAllColumnsShowFocus(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSortingEnabled(false);
-    header()->setSectionsClickable(true);
-    header()->setSortIndicatorShown(true);
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(QHeaderView::Interactive);
+    ShowAsRowList(*this);
     const auto& columns = SoftwareListColumns();
     for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
         setColumnWidth(column, columns[static_cast<std::size_t>(column)].twips / kTwipsPerPixel);
