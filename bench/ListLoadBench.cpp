@@ -10,6 +10,7 @@
 #include <iostream>
 
 #include "BenchSupport.h"
+#include "CatalogueNames.h"
 #include "core/LineReader.h"
 #include "core/ProfileFile.h"
 #include "core/TextFile.h"
@@ -31,24 +32,6 @@ std::size_t ReadLines(const std::filesystem::path& file) {
     return bytes;
 }
 
-/// Short names of a catalogue file, in order.
-std::vector<std::string> ShortNames(const std::filesystem::path& file) {
-    std::vector<std::string> names;
-    LineReader reader(file);
-    std::string_view line;
-    while (reader.Next(line)) {
-        std::size_t at = 0;
-        for (int quote = 0; quote < 25 && at != std::string_view::npos; ++quote) {
-            at = line.find('"', at + 1);
-        }
-        const std::size_t end = line.find('"', at + 1);
-        if (at != std::string_view::npos && end != std::string_view::npos) {
-            names.emplace_back(line.substr(at + 1, end - at - 1));
-        }
-    }
-    return names;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -63,7 +46,7 @@ int main(int argc, char** argv) {
     std::filesystem::remove_all(work);
     std::filesystem::create_directories(work / "roms");
 
-    const auto names = ShortNames(arcade);
+    const auto names = bench::CatalogueShortNames(arcade);
     std::vector<std::string> players = {"[NPlayers]"};
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (i < kRomSets) {

@@ -11,6 +11,7 @@
 #include <iostream>
 
 #include "BenchSupport.h"
+#include "CatalogueNames.h"
 #include "ReportsBenchSupport.h"
 #include "core/LineReader.h"
 #include "lists/ListLoader.h"
@@ -21,23 +22,6 @@ using namespace coinlight;
 namespace {
 
 constexpr std::size_t kFiles = 40000;
-
-std::vector<std::string> ShortNames(const std::filesystem::path& file) {
-    std::vector<std::string> names;
-    LineReader reader(file);
-    std::string_view line;
-    while (reader.Next(line)) {
-        std::size_t at = 0;
-        for (int quote = 0; quote < 25 && at != std::string_view::npos; ++quote) {
-            at = line.find('"', at + 1);
-        }
-        const std::size_t end = line.find('"', at + 1);
-        if (at != std::string_view::npos && end != std::string_view::npos) {
-            names.emplace_back(line.substr(at + 1, end - at - 1));
-        }
-    }
-    return names;
-}
 
 std::vector<LoadedList> LoadLists(const std::filesystem::path& output) {
     std::vector<LoadedList> lists;
@@ -69,8 +53,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path output = argv[1];
-    std::vector<std::string> names = ShortNames(output / "arcadeinfo.txt");
-    for (auto& name : ShortNames(output / "otherinfo.txt")) {
+    std::vector<std::string> names = bench::CatalogueShortNames(output / "arcadeinfo.txt");
+    for (auto& name : bench::CatalogueShortNames(output / "otherinfo.txt")) {
         names.push_back(std::move(name));
     }
     const auto root = std::filesystem::temp_directory_path() / "coinlight-unneeded-bench";
